@@ -1,0 +1,29 @@
+// What the views share at their beginning and at their end.
+#pragma once
+
+#include "common/output.h"
+#include "zel_l2fib/show.h"
+
+namespace l2fib
+{
+
+/// The arguments of every view of an object.
+struct ViewRequest {
+    std::uint32_t objtype;
+    std::uint32_t node_id;
+    std::uint32_t direction;
+    std::uint32_t view_flags;
+    std::uint8_t *show_data;
+    std::uint64_t size;
+};
+
+/// Whether the card of a node is of the supported family; says so on the screen when it is not.
+bool card_is_supported(Output &out, std::uint32_t node_id);
+
+/// Empties zel_l2fib_hal_print and enters the views of the supported card family.
+void fill_hal_print();
+
+/// Prints the hardware's part of an object below the RP's: nothing when no view is entered for the card.
+std::uint32_t hand_over(std::uint32_t level, const ViewRequest &request);
+
+} // namespace l2fib

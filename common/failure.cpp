@@ -1,0 +1,40 @@
+#include "common/failure.h"
+
+namespace l2fib
+{
+
+// What the two messages below print in the action's place.
+constexpr int action_null_show_data = 99;
+constexpr int action_wrong_objtype = 100;
+
+std::uint32_t short_data(Output &out, std::uint32_t level, std::uint64_t size, std::uint64_t needed)
+{
+    out.line(level, "data_size is %zd, expecting at least %zd", size, needed);
+    return L2FIB_SHOW_ERR_DATA;
+}
+
+std::uint32_t null_arguments(Output &out, std::uint32_t level, const char *function)
+{
+    out.line(level, "%s: Null arguments rcvd", function);
+    return L2FIB_SHOW_ERR_ARGS;
+}
+
+std::uint32_t null_entry(Output &out, std::uint32_t level, const char *function)
+{
+    out.line(level, "%s: Failed with null args", function);
+    return L2FIB_SHOW_ERR_ARGS;
+}
+
+std::uint32_t null_show_data(Output &out, const char *function, std::uint32_t objtype)
+{
+    out.text("%s: NULL show data objtype %d action %d\n", function, objtype, action_null_show_data);
+    return L2FIB_SHOW_ERR_ARGS;
+}
+
+std::uint32_t wrong_objtype(Output &out, const char *function, std::uint32_t objtype)
+{
+    out.text("%s: Wrong L2FIB objtype %d action %d", function, objtype, action_wrong_objtype);
+    return 0;
+}
+
+} // namespace l2fib

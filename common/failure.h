@@ -1,0 +1,26 @@
+// Failures, each with its diagnostic and its status.
+#pragma once
+
+#include "common/output.h"
+#include "common/show_data.h"
+#include "zel_l2fib/show.h"
+
+namespace l2fib
+{
+
+/// Show data that ends early: the bytes that there are and the bytes that are needed.
+std::uint32_t short_data(Output &out, std::uint32_t level, std::uint64_t size, std::uint64_t needed);
+
+/// A hardware handler that was called without show data.
+std::uint32_t null_arguments(Output &out, std::uint32_t level, const char *function);
+
+/// A view of a hardware entry that was called without the entry.
+std::uint32_t null_entry(Output &out, std::uint32_t level, const char *function);
+
+/// An RP view that was called without show data.
+std::uint32_t null_show_data(Output &out, const char *function, std::uint32_t objtype);
+
+/// An object that a view does not show. Opens no line, and is no failure: the status is 0.
+std::uint32_t wrong_objtype(Output &out, const char *function, std::uint32_t objtype);
+
+} // namespace l2fib

@@ -1,0 +1,21 @@
+// Values whose text is more than a number: times, addresses, groups.
+#pragma once
+
+#include "common/format.h"
+#include "common/stored.h"
+
+#include <cstdint>
+
+namespace l2fib
+{
+
+/// The wall-clock time of a monotonic stamp in nanoseconds, "N/A" for a stamp of 0.
+Text<256> timestamp_text(std::uint64_t stamp);
+
+/// A split-horizon group.
+Text<12> shg_text(std::uint32_t group);
+
+/// A MAC address in wire order: 0011.2233.4455.
+Text<15> mac_text(const Bytes<6> &mac);
+
+} // namespace l2fib

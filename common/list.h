@@ -1,0 +1,84 @@
+// The wrapped list: how every labelled run of values and flags is laid out.
+#pragma once
+
+#include "common/flags.h"
+#include "common/output.h"
+
+namespace l2fib
+{
+
+/// Items on one line, joined by ", ". An item that would begin behind column 70 goes to a new line instead, indented
+/// to the continuation column; the test is made before the first item too.
+class List
+{
+public:
+    /// Opens a line for a list of values, which continues at the line's indentation.
+    List(Output &out, std::uint32_t level) : out_(out), column_(out.line(level)), continuation_(column_) {}
+
+    /// Opens a line for a labelled list, which continues under its first item.
+    List(Output &out, std::uint32_t level, const char *label) : List(out, level)
+    {
+        text("%s: ", label);
+        continuation_ = column_;
+    }
+
+    /// Text in front of the first item; it takes room on the line but is no item.
+    template <class... Args>
+    void text(Format<std::type_identity_t<Args>...> format, const Args &...args)
+    {
+        column_ += out_.text<Args...>(format, args...);
+    }
+
+    template <class... Args>
+    void item(Format<std::type_identity_t<Args>...> format, const Args &...args)
+    {
+        separate();
+        text<Args...>(format, args...);
+    }
+
+    template <class... Args>
+    void item_if(bool condition, Format<std::type_identity_t<Args>...> format, const Args &...args)
+    {
+        if (condition) {
+            item<Args...>(format, args...);
+        }
+    }
+
+    /// The texts of a flag table for a word; `considered` has the flags that may be shown.
+    template <std::size_t size, class Word>
+    void flags(const FlagTable<size> &table, const Word &word, std::uint32_t considered = all_flags)
+    {
+        for (const Flag &flag : table.rows) {
+            const char *text = is_set(word, flag.number) ? flag.text : flag.text_when_clear;
+            item_if(text != nullptr && is_set(considered, flag.number), "%s", text);
+        }
+    }
+
+    /// What a list of flags shows when none was set.
+    void none_if_empty()
+    {
+        if (items_ == 0) {
+            text("None");
+        }
+    }
+
+private:
+    void separate();
+
+    Output &out_;
+    int column_;
+    int continuation_;
+    int items_ = 0;
+};
+
+/// A line with the texts of a flag table for a word, "None" when there are none.
+template <std::size_t size, class Word>
+void print_flags(Output &out, std::uint32_t level, const char *label, const FlagTable<size> &table, const Word &word,
+                 std::uint32_t considered = all_flags)
+{
+    List line{out, level, label};
+    line.flags(table, word, considered);
+    line.none_if_empty();
+}
+
+} // namespace l2fib

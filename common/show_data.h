@@ -1,0 +1,54 @@
+// Checked access to show data. A record is reached through here or not at all.
+#pragma once
+
+#include <cstdint>
+#include <type_traits>
+
+namespace l2fib
+{
+
+template <class Record>
+concept ShowDataRecord = alignof(Record) == 1 && std::is_trivially_copyable_v<Record>;
+
+/// The caller's buffer, or the part of it that begins at some offset.
+class ShowData
+{
+public:
+    ShowData() = default;
+    ShowData(std::uint8_t *bytes, std::uint64_t size) : begin_(bytes), size_(bytes == nullptr ? 0 : size) {}
+
+    [[nodiscard]] bool is_null() const { return begin_ == nullptr; }
+    [[nodiscard]] std::uint64_t size() const { return size_; }
+    [[nodiscard]] std::uint8_t *begin() const { return begin_; }
+
+    [[nodiscard]] bool holds(std::uint64_t offset, std::uint64_t bytes) const
+    {
+        return offset <= size_ && bytes <= size_ - offset;
+    }
+
+    /// The record at an offset, or null unless all of it lies inside the show data.
+    template <ShowDataRecord Record>
+    [[nodiscard]] Record *at(std::uint64_t offset) const
+    {
+        return !is_null() && holds(offset, sizeof(Record)) ? &promised<Record>(begin_ + offset) : nullptr;
+    }
+
+    /// What lies behind an offset; null show data where nothing does.
+    [[nodiscard]] ShowData from(std::uint64_t offset) const
+    {
+        return !is_null() && holds(offset, 0) ? ShowData{begin_ + offset, size_ - offset} : ShowData{};
+    }
+
+    /// A record that a caller of the library vouches for, of a buffer whose size nobody compares.
+    template <ShowDataRecord Record, class Byte>
+    [[nodiscard]] static Record &promised(Byte *bytes)
+    {
+        return *reinterpret_cast<Record *>(bytes);
+    }
+
+private:
+    std::uint8_t *begin_ = nullptr;
+    std::uint64_t size_ = 0;
+};
+
+} // namespace l2fib

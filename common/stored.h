@@ -1,0 +1,153 @@
+// Fields as they lie in the show data: big-endian, at any offset, converted to host order in place.
+//
+// Every type here has alignment 1, so a struct of them is exactly its layout.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+
+namespace l2fib
+{
+
+static_assert(std::endian::native == std::endian::little, "to_host() turns every field round");
+
+/// An integer of the show data.
+template <class Integer>
+class Stored
+{
+public:
+    using Value = Integer;
+
+    /// The value of a field that is in host order: converted, or stored so by the producer.
+    [[nodiscard]] constexpr Integer value() const { return std::bit_cast<Integer>(bytes); }
+    constexpr operator Integer() const { return value(); }
+
+    /// The value of a field that is, and stays, big-endian.
+    [[nodiscard]] constexpr Integer from_wire() const
+    {
+        Stored converted = *this;
+        converted.to_host();
+        return converted.value();
+    }
+
+    constexpr void to_host() { std::reverse(bytes.begin(), bytes.end()); }
+
+    std::array<std::uint8_t, sizeof(Integer)> bytes;
+};
+
+using U16 = Stored<std::uint16_t>;
+using U32 = Stored<std::uint32_t>;
+using U64 = Stored<std::uint64_t>;
+using S32 = Stored<std::int32_t>;
+
+template <std::size_t size>
+using Bytes = std::array<std::uint8_t, size>;
+
+/// `count` neighbouring fields of a packed word, each `width` bits wide.
+struct FieldRun {
+    unsigned count;
+    unsigned width;
+};
+
+constexpr FieldRun one_bit(unsigned count)
+{
+    return {count, 1};
+}
+constexpr FieldRun wide(unsigned width)
+{
+    return {1, width};
+}
+
+/// A word of packed bit-fields, described in the producer's order, for example Packed<U32, one_bit(23), wide(9)>.
+///
+/// The producer fills the big-endian word from its most significant bit downwards; the host fills its word from the
+/// least significant bit upwards. Fields keep their values and their order, and are numbered from 0.
+template <class Word, FieldRun... runs>
+class Packed
+{
+    using Bits = typename Word::Value;
+    static constexpr unsigned word_width = 8 * sizeof(Bits);
+    static_assert(((runs.count * runs.width) + ...) == word_width);
+
+    static constexpr unsigned field_count = (runs.count + ...);
+
+    struct Field {
+        unsigned start; // in the host's word
+        unsigned width;
+    };
+
+    static constexpr std::array<Field, field_count> layout = [] {
+        std::array<Field, field_count> fields{};
+        unsigned next = 0;
+        unsigned start = 0;
+        for (const FieldRun run : {runs...}) {
+            for (unsigned i = 0; i < run.count; ++i) {
+                fields[next++] = {start, run.width};
+                start += run.width;
+            }
+        }
+        return fields;
+    }();
+
+    static constexpr Bits mask(Field field)
+    {
+        return static_cast<Bits>(static_cast<Bits>(~Bits{0}) >> (word_width - field.width));
+    }
+
+public:
+    static constexpr unsigned fields = field_count;
+
+    [[nodiscard]] constexpr Bits get(unsigned field) const
+    {
+        return static_cast<Bits>(word.value() >> layout[field].start) & mask(layout[field]);
+    }
+    [[nodiscard]] constexpr bool test(unsigned field) const { return get(field) != 0; }
+
+    constexpr void to_host()
+    {
+        const Bits wire = word.from_wire();
+        Bits host = 0;
+        for (const Field field : layout) {
+            const unsigned wire_start = word_width - field.width - field.start;
+            host = static_cast<Bits>(host | (static_cast<Bits>(wire >> wire_start) & mask(field)) << field.start);
+        }
+        word.bytes = std::bit_cast<decltype(word.bytes)>(host);
+    }
+
+    /// The big-endian bits of a field that holds `value`: how a producer sets it.
+    static constexpr Bits wire_bits(unsigned field, Bits value)
+    {
+        const unsigned wire_start = word_width - layout[field].width - layout[field].start;
+        return static_cast<Bits>((value & mask(layout[field])) << wire_start);
+    }
+
+    Word word;
+};
+
+using U8 = Stored<std::uint8_t>;
+
+template <FieldRun... runs>
+using FlagWord = Packed<U32, runs...>;
+template <FieldRun... runs>
+using FlagByte = Packed<U8, runs...>;
+
+/// Converts fields, and arrays of fields, in place.
+template <class... Fields>
+constexpr void to_host(Fields &...fields)
+{
+    constexpr auto convert = []<class Field>(Field &field) {
+        if constexpr (requires { field.to_host(); }) {
+            field.to_host();
+        } else {
+            for (auto &element : field) {
+                element.to_host();
+            }
+        }
+    };
+    (convert(fields), ...);
+}
+
+} // namespace l2fib
