@@ -1,0 +1,30 @@
+// Names that the views of several objects share.
+#pragma once
+
+#include "common/names.h"
+
+namespace l2fib
+{
+
+constexpr std::uint32_t service_mtun = 0;
+constexpr std::uint32_t service_local_switch = 1;
+constexpr std::uint32_t service_vpls = 2;
+
+/// The service (cross-connect type) of an AC or a PW.
+inline const char *service_name(std::uint32_t service)
+{
+    constexpr const char *names[] = {"Mtun", "Local Switch", "VPLS", "Snoop", "L2TP", "IPV6_L2TPV3"};
+    return name_of(names, service, "Invalid");
+}
+
+constexpr std::uint32_t state_bound = 2;
+constexpr std::uint32_t state_unbound = 3;
+
+/// The state of an object.
+inline const char *state_name(std::uint32_t state)
+{
+    constexpr const char *names[] = {"Uninitialized", "Created", "Bound", "Unbound", "Deleted"};
+    return name_of(names, state, "Invalid");
+}
+
+} // namespace l2fib

@@ -1,0 +1,19 @@
+// The private view: an object's RP context field by field, then the hardware's part.
+#include "common/entry.h"
+#include "common/failure.h"
+
+uint32_t zel_l2fib_print_internal_private(uint32_t objtype, uint32_t node_id, uint32_t direction, uint32_t view_flags,
+                                          uint8_t *show_data, uint64_t size)
+{
+    using namespace l2fib;
+    Output out;
+    if (show_data == nullptr) {
+        return null_show_data(out, __func__, objtype);
+    }
+    if (!card_is_supported(out, node_id)) {
+        return 0;
+    }
+    out.line(1);
+    wrong_objtype(out, __func__, objtype);
+    return hand_over(1, {objtype, node_id, direction, view_flags, show_data, size});
+}
