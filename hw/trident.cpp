@@ -1,0 +1,110 @@
+// The hardware side of a request: which view, and which object's handler.
+#include "common/entry.h"
+#include "common/failure.h"
+#include "common/list.h"
+#include "common/objtype.h"
+#include "hw/ac_handler.h"
+#include "platform/platform.h"
+#include "rp/ac_context.h"
+#include "rp/names.h"
+#include "rp/pw_context.h"
+
+namespace l2fib
+{
+
+/// Whether the NPs can hold anything for an AC. One that is unbound is kept in hardware unless its interface is
+/// virtual.
+static bool ac_is_in_hardware(const AcContext &ac)
+{
+    if (ac.state == state_unbound) {
+        std::uint32_t is_virtual = 0;
+        if (ifhandle_is_virtual(ac.ifhandle, &is_virtual) == 0 && is_virtual != 0) {
+            return false;
+        }
+    } else if (ac.state != state_bound) {
+        return false;
+    }
+    return !ac.flags.test(AcContext::remote_ac);
+}
+
+static const char *service_of_ac(ShowData data)
+{
+    const auto *service = data.at<U32>(offsetof(AcShowData, context.service));
+    return service_name(service == nullptr ? UINT32_MAX : service->value());
+}
+
+static std::uint32_t print_ac(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data,
+                              const char *view)
+{
+    out.line(level);
+    const auto *ac = data.at<AcShowData>(0);
+    if (ac != nullptr && !ac_is_in_hardware(ac->context)) {
+        return 0;
+    }
+    const std::uint32_t status = zel_l2fib_ac_print_handler(out, level, direction, data);
+    if (status != 0) {
+        out.line(level, "%s: print handler failed for service %s objtype %d : %s", view, service_of_ac(data),
+                 std::uint32_t{L2FIB_OBJTYPE_AC}, status_text(status));
+    }
+    return status;
+}
+
+} // namespace l2fib
+
+uint32_t zel_l2fib_trident_print_internal(uint32_t level, uint32_t objtype, uint32_t node_id, uint32_t direction,
+                                          uint32_t view_flags, uint8_t *show_data, uint64_t size)
+{
+    using namespace l2fib;
+    Output out;
+    if (!card_is_supported(out, node_id)) {
+        return 0;
+    }
+    if (show_data == nullptr || size == 0) {
+        return 0;
+    }
+    const auto view = (view_flags & L2FIB_VIEW_INCONSISTENT) != 0 ? zel_l2fib_trident_print_internal_inconsistent
+                      : (view_flags & L2FIB_VIEW_PRIVATE) != 0    ? zel_l2fib_trident_print_internal_private
+                      : (view_flags & L2FIB_VIEW_DETAIL) != 0     ? zel_l2fib_trident_print_internal_detail
+                                                                  : nullptr;
+    const std::uint32_t card_type = zel_l2fib_get_cardtype(node_id);
+    return view == nullptr ? 0 : view(level, objtype, card_type, direction, view_flags, show_data, size);
+}
+
+uint32_t zel_l2fib_trident_print_internal_detail(uint32_t level, uint32_t objtype, uint32_t /*card_type*/,
+                                                 uint32_t direction, uint32_t /*view_flags*/, uint8_t *show_data,
+                                                 uint64_t size)
+{
+    using namespace l2fib;
+    Output out;
+    const ShowData data{show_data, size};
+    switch (objtype) {
+    case L2FIB_OBJTYPE_AC: return print_ac(out, level, direction, data, __func__);
+    case L2FIB_OBJTYPE_NHOP:
+    case L2FIB_OBJTYPE_BRIDGE_PORT: return 0; // the RP's context is all there is
+    default: out.line(level); return wrong_objtype(out, __func__, objtype);
+    }
+}
+
+uint32_t zel_l2fib_trident_print_internal_private(uint32_t /*level*/, uint32_t objtype, uint32_t /*card_type*/,
+                                                  uint32_t /*direction*/, uint32_t /*view_flags*/,
+                                                  uint8_t * /*show_data*/, uint64_t /*size*/)
+{
+    using namespace l2fib;
+    Output out;
+    switch (objtype) {
+    case L2FIB_OBJTYPE_AC:
+    case L2FIB_OBJTYPE_MPLS:
+    case L2FIB_OBJTYPE_BRIDGE: return 0; // the RP's context is all there is
+    default: return wrong_objtype(out, __func__, objtype);
+    }
+}
+
+uint32_t zel_l2fib_trident_print_internal_inconsistent(uint32_t level, uint32_t objtype, uint32_t /*card_type*/,
+                                                       uint32_t /*direction*/, uint32_t /*view_flags*/,
+                                                       uint8_t * /*show_data*/, uint64_t /*size*/)
+{
+    using namespace l2fib;
+    Output out;
+    out.line(level, "Hardware object %s not handled", objtype_name(objtype));
+    return 0;
+}

@@ -1,0 +1,137 @@
+#include "hw/vpls_ac.h"
+
+#include "common/failure.h"
+#include "hw/flooding.h"
+#include "hw/np.h"
+
+#include <iterator>
+#include <optional>
+
+namespace l2fib
+{
+
+/// Where the record of an NP lies among np_count records: a single one serves every NP. None for an NP that has none.
+static std::optional<std::uint64_t> record_index(std::uint32_t np, std::uint32_t np_count)
+{
+    if (np_count == 1) {
+        return 0;
+    }
+    return np < np_count ? std::optional<std::uint64_t>{np} : std::nullopt;
+}
+
+static std::uint32_t print_np_without_record(Output &out, std::uint32_t level, std::uint32_t np)
+{
+    out.line(level, "NP%d", np);
+    out.line(level + 1, "Invalid NP ID");
+    return 0;
+}
+
+/// Prints an NP's record; the status is that of its cross-connect entry.
+static std::uint32_t print_np(Output &out, std::uint32_t level, std::uint32_t direction, const AcContext &ac,
+                              std::uint32_t np, VplsNpRecord &record, bool bports_present, const char *handler)
+{
+    out.line(level, "NP%d", np);
+    zel_l2fib_print_uidb_entry(out, level + 1, direction, ac.service, &record.uidb);
+    const std::uint32_t status = zel_l2fib_print_xid_entry(out, level + 1, ac.xid, &record.xid);
+    report_xid_failure(out, level + 1, handler, ac.xid, status);
+    if (bports_present) {
+        for (Bport &bport : record.bports) {
+            zel_l2fib_print_bport_entry(out, level + 1, &bport.key, &bport.entry);
+        }
+    }
+    return status;
+}
+
+static std::uint32_t zel_l2fib_vpls_egress_print_handler(Output &out, std::uint32_t level, const AcContext &ac,
+                                                         std::uint32_t np_count, ShowData block)
+{
+    constexpr std::uint8_t bports_present = 0x01; // of the first byte; the ingress side asks for any bit of the word
+    const std::uint64_t needed = sizeof(VplsEgressBlock) + np_count * sizeof(VplsNpRecord);
+    if (block.size() < needed) {
+        return short_data(out, level, block.size(), needed);
+    }
+    std::uint32_t status = 0;
+    const NpRange nps = np_range(ac.requested_np, np_count);
+    for (std::uint32_t np = nps.first; np < nps.end; ++np) {
+        const auto index = record_index(np, np_count);
+        if (!index) {
+            return print_np_without_record(out, level, np);
+        }
+        auto &record = *block.at<VplsNpRecord>(sizeof(VplsEgressBlock) + *index * sizeof(VplsNpRecord));
+        status = print_np(out, level, L2FIB_EGRESS, ac, np, record,
+                          (record.bports_present.bytes[0] & bports_present) != 0, __func__);
+    }
+    return status;
+}
+
+static StormControlConfig storm_control_config(const BridgePortContext &port)
+{
+    const auto &features = port.features.features;
+    return {.limits = {{features.test(FeatureFlags::storm_control_broadcast), port.broadcast_rate},
+                       {features.test(FeatureFlags::storm_control_multicast), port.multicast_rate},
+                       {features.test(FeatureFlags::storm_control_unknown_unicast), port.unknown_unicast_rate}},
+            .kbps = (port.storm_control_unit & BridgePortContext::storm_control_in_kbps) != 0};
+}
+
+static void print_ac_storm_control(Output &out, std::uint32_t level, const BridgePortContext &port, std::uint32_t np,
+                                   StormControlProfile &profile)
+{
+    const StormControlConfig config = storm_control_config(port);
+    if (!config.any_enabled()) {
+        out.line(level, "Storm Control not enabled");
+    } else if (np >= std::size(port.storm_control)) {
+        out.line(level, "Invalid NP ID");
+    } else if (has_storm_control(port.storm_control[np])) {
+        profile.to_host();
+        print_storm_control(out, level, config, port.storm_control[np], profile, np);
+    }
+}
+
+static std::uint32_t zel_l2fib_vpls_ingress_print_handler(Output &out, std::uint32_t level, const AcContext &ac,
+                                                          std::uint32_t np_count, ShowData block)
+{
+    constexpr std::uint64_t header_size = sizeof(VplsIngressBlock);
+    const std::uint64_t needed = header_size + np_count * sizeof(VplsIngressNpRecord) + sizeof(VplsIngressTrailer);
+    if (block.size() < needed) {
+        return short_data(out, level, block.size(), needed);
+    }
+    BridgePortContext &port = block.at<VplsIngressBlock>(0)->port;
+    port.to_host();
+    print_flooding(out, level, port);
+
+    std::uint32_t status = 0;
+    const NpRange nps = np_range(ac.requested_np, np_count);
+    for (std::uint32_t np = nps.first; np < nps.end; ++np) {
+        const auto index = record_index(np, np_count);
+        if (!index) {
+            return print_np_without_record(out, level, np);
+        }
+        auto &record = *block.at<VplsIngressNpRecord>(header_size + *index * sizeof(VplsIngressNpRecord));
+        status = print_np(out, level, L2FIB_INGRESS, ac, np, record.np, record.np.bports_present != 0, __func__);
+        print_ac_storm_control(out, level + 1, port, np, record.storm_control);
+    }
+    return status;
+}
+
+std::uint32_t print_vpls_ac(Output &out, std::uint32_t level, std::uint32_t direction, const AcContext &ac,
+                            ShowData block)
+{
+    if (block.is_null()) {
+        out.line(level, "NULL data pointer");
+        return L2FIB_SHOW_ERR_DATA;
+    }
+    auto *np_count = block.at<U32>(0);
+    if (np_count == nullptr) {
+        return short_data(out, level, block.size(), sizeof(U32));
+    }
+    np_count->to_host();
+    if (!np_count_is_valid(*np_count)) {
+        out.line(level);
+        print_invalid_np_count(out, *np_count);
+        return 0;
+    }
+    return direction == L2FIB_INGRESS ? zel_l2fib_vpls_ingress_print_handler(out, level, ac, *np_count, block)
+                                      : zel_l2fib_vpls_egress_print_handler(out, level, ac, *np_count, block);
+}
+
+} // namespace l2fib
