@@ -1,0 +1,90 @@
+// Composes show data as the producer does: big-endian, field by field.
+#pragma once
+
+#include "common/stored.h"
+#include "hw/uidb_entry.h"
+
+#include <cstring>
+#include <initializer_list>
+#include <vector>
+
+namespace l2fib
+{
+
+/// A number, big-endian.
+template <class Integer>
+void set(Stored<Integer> &field, std::type_identity_t<Integer> value)
+{
+    field.bytes = std::bit_cast<decltype(field.bytes)>(value);
+    field.to_host(); // turning round is its own opposite
+}
+
+/// A number in the byte order of the line card's own processor.
+template <class Integer>
+void set_as_stored(Stored<Integer> &field, std::type_identity_t<Integer> value)
+{
+    field.bytes = std::bit_cast<decltype(field.bytes)>(value);
+}
+
+/// One field of a packed word.
+template <class Word, FieldRun... runs>
+void set_field(Packed<Word, runs...> &packed, unsigned field, typename Word::Value value)
+{
+    using Bits = typename Word::Value;
+    const auto others =
+        static_cast<Bits>(packed.word.from_wire() & ~packed.wire_bits(field, static_cast<Bits>(~Bits{0})));
+    set(packed.word, static_cast<Bits>(others | packed.wire_bits(field, value)));
+}
+
+/// Flags of a packed word.
+template <class Word, FieldRun... runs>
+void set_flags(Packed<Word, runs...> &packed, std::initializer_list<unsigned> fields)
+{
+    for (const unsigned field : fields) {
+        set_field(packed, field, 1);
+    }
+}
+
+/// Bits of a plain word, 31 as the top bit.
+inline void set_flags(U32 &word, std::initializer_list<unsigned> bits)
+{
+    std::uint32_t value = word.from_wire();
+    for (const unsigned bit : bits) {
+        value |= std::uint32_t{1} << bit;
+    }
+    set(word, value);
+}
+
+inline void set_flags(UidbEntry &entry, std::initializer_list<UidbFlag> flags)
+{
+    for (const UidbFlag flag : flags) {
+        entry.flags[flag.byte - offsetof(UidbEntry, flags)] |= flag.mask;
+    }
+}
+
+/// Records, one behind the other.
+class ShowDataBuilder
+{
+public:
+    template <class Record>
+    ShowDataBuilder &add(const Record &record)
+    {
+        const std::size_t offset = bytes_.size();
+        bytes_.resize(offset + sizeof record);
+        std::memcpy(bytes_.data() + offset, &record, sizeof record);
+        return *this;
+    }
+
+    ShowDataBuilder &add_zeros(std::size_t size)
+    {
+        bytes_.resize(bytes_.size() + size);
+        return *this;
+    }
+
+    [[nodiscard]] const std::vector<std::uint8_t> &bytes() const { return bytes_; }
+
+private:
+    std::vector<std::uint8_t> bytes_;
+};
+
+} // namespace l2fib
