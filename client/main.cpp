@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
+#include <exception>
 #include <map>
 #include <string>
 
@@ -80,11 +81,8 @@ static int show(const Arguments &arguments)
     return shown;
 }
 
-} // namespace l2fib
-
-int main(int argc, char **argv)
+static int run(int argc, char **argv)
 {
-    using namespace l2fib;
     CLI::App app{"Prints saved show data of the layer-2 forwarding information base", "l2fib-show"};
     app.require_subcommand(0, 1); // none is reported below, so that an unknown one is reported by its name
     Arguments arguments;
@@ -102,4 +100,15 @@ int main(int argc, char **argv)
         return complain("an object is required; see l2fib-show --help");
     }
     return show(arguments);
+}
+
+} // namespace l2fib
+
+int main(int argc, char **argv)
+{
+    try {
+        return l2fib::run(argc, argv);
+    } catch (const std::exception &error) {
+        return l2fib::complain(error.what());
+    }
 }

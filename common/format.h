@@ -5,6 +5,7 @@
 
 #include "common/stored.h"
 
+#include <array>
 #include <concepts>
 #include <cstdint>
 #include <string_view>
@@ -47,8 +48,13 @@ public:
     // Implicit, so that a format is written as the string that it is.
     consteval Format(const char *text) : text_(text)
     {
-        constexpr Kind kinds[] = {kind_of<Args>()..., Kind::none};
+        constexpr std::array<Kind, sizeof...(Args)> kinds{kind_of<Args>()...};
         std::size_t next = 0;
+        const auto take = [&](Kind expected) {
+            if (expected == Kind::none || next >= kinds.size() || kinds[next++] != expected) {
+                does_not_fit_its_arguments();
+            }
+        };
         for (std::string_view rest = text; !rest.empty(); rest.remove_prefix(1)) {
             if (rest.front() != '%') {
                 continue;
@@ -58,23 +64,18 @@ public:
                 continue;
             }
             for (; is_one_of(rest, "-+ #0123456789*"); rest.remove_prefix(1)) {
-                if (rest.front() == '*' && kinds[next++] != Kind::number) {
-                    does_not_fit_its_arguments();
+                if (rest.front() == '*') {
+                    take(Kind::number);
                 }
             }
             const bool is_long = is_one_of(rest, "lz");
             if (is_long) {
                 rest.remove_prefix(1);
             }
-            const Kind expected = is_one_of(rest, "s")        ? Kind::text
-                                  : !is_one_of(rest, "duxXc") ? Kind::none
-                                  : is_long                   ? Kind::long_number
-                                                              : Kind::number;
-            if (expected == Kind::none || kinds[next++] != expected) {
-                does_not_fit_its_arguments();
-            }
+            const Kind any_number = is_long ? Kind::long_number : Kind::number;
+            take(is_one_of(rest, "s") ? Kind::text : is_one_of(rest, "duxXc") ? any_number : Kind::none);
         }
-        if (kinds[next] != Kind::none) {
+        if (next != kinds.size()) {
             does_not_fit_its_arguments();
         }
     }

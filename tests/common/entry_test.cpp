@@ -1,0 +1,145 @@
+// What a request meets before a view prints its object.
+#include "tests/support/printed.h"
+#include "tests/support/test_platform.h"
+#include "zel_l2fib/show.h"
+
+#include <gtest/gtest.h>
+
+namespace l2fib
+{
+
+using Bytes = std::vector<std::uint8_t>;
+
+class Entry : public testing::Test
+{
+protected:
+    ~Entry() override { test_platform = {}; }
+};
+
+static Shown print_internal(std::uint32_t objtype, std::uint32_t view_flags, const Bytes &bytes)
+{
+    const GuardedBytes data(bytes);
+    return shown([&] { return zel_l2fib_print_internal(objtype, 0, 1, view_flags, data.data(), data.size()); });
+}
+
+TEST_F(Entry, CardFamily)
+{
+    const struct {
+        std::uint32_t code;
+        std::uint32_t row;
+    } cases[] = {{0, 0},        {0x1e0fff, 0}, {0x1e1000, 1}, {0x1e1001, 1}, {0x1e1002, 1},
+                 {0x1e1003, 1}, {0x1e1004, 0}, {0x1e1005, 1}, {0x1e1006, 0}};
+    for (const auto &c : cases) {
+        test_platform.card_type = c.code;
+        EXPECT_EQ(zel_l2fib_get_cardtype(7), c.row) << std::hex << c.code;
+    }
+}
+
+TEST_F(Entry, UnsupportedCardsShowNothingElse)
+{
+    test_platform.card_type = 0x1e1004;
+    const Shown unsupported{"\nUnsupported card type NONE: 0"};
+    Bytes bytes(200);
+    EXPECT_EQ(print_internal(L2FIB_OBJTYPE_AC, L2FIB_VIEW_DETAIL, bytes), unsupported);
+    EXPECT_EQ(shown([&] { return zel_l2fib_print_internal_private(2, 0, 1, 2, bytes.data(), 200); }), unsupported);
+    EXPECT_EQ(shown([&] { return zel_l2fib_trident_print_internal(1, 2, 0, 1, 1, bytes.data(), 200); }), unsupported);
+    EXPECT_EQ(shown([&] { return zel_l2fib_print_internal_inconsistent(2, 0, 1, 4, bytes.data(), 200); }),
+              Shown{"Unsupported card type: NONE"});
+}
+
+TEST_F(Entry, NullShowData)
+{
+    EXPECT_EQ(shown([] { return zel_l2fib_print_internal(2, 0, 1, 1, nullptr, 0); }),
+              (Shown{"zel_l2fib_print_internal_detail: NULL show data objtype 2 action 99\n", L2FIB_SHOW_ERR_ARGS}));
+    EXPECT_EQ(shown([] { return zel_l2fib_print_internal(11, 0, 1, 2, nullptr, 500); }),
+              (Shown{"zel_l2fib_print_internal_private: NULL show data objtype 11 action 99\n", L2FIB_SHOW_ERR_ARGS}));
+}
+
+TEST_F(Entry, ShowDataThatEndsInsideTheContext)
+{
+    Bytes vpls_ac(106);
+    vpls_ac[1] = 3; // NPs
+    vpls_ac[9] = 2; // VPLS
+    Bytes next_hop(25880);
+    next_hop[71] = 2; // paths
+    const Bytes &ac = vpls_ac;
+    const struct {
+        std::uint32_t objtype;
+        std::uint32_t view;
+        Bytes bytes;
+        const char *sizes;
+    } cases[] = {
+        {L2FIB_OBJTYPE_AC, L2FIB_VIEW_DETAIL, {}, "0, expecting at least 106"},
+        {L2FIB_OBJTYPE_AC, L2FIB_VIEW_PRIVATE, Bytes(105), "105, expecting at least 106"},
+        {L2FIB_OBJTYPE_AC, L2FIB_VIEW_PRIVATE, ac, "106, expecting at least 2754"},
+        {L2FIB_OBJTYPE_MPLS, L2FIB_VIEW_DETAIL, Bytes(303), "303, expecting at least 304"},
+        {L2FIB_OBJTYPE_BRIDGE, L2FIB_VIEW_PRIVATE, Bytes(929), "929, expecting at least 930"},
+        {L2FIB_OBJTYPE_BRIDGE_PORT, L2FIB_VIEW_DETAIL, Bytes(2587), "2587, expecting at least 2588"},
+        {L2FIB_OBJTYPE_BRIDGE_MAC, L2FIB_VIEW_DETAIL, Bytes(115), "115, expecting at least 116"},
+        {L2FIB_OBJTYPE_NHOP, L2FIB_VIEW_PRIVATE, Bytes(25879), "25879, expecting at least 25880"},
+        {L2FIB_OBJTYPE_NHOP, L2FIB_VIEW_PRIVATE, next_hop, "25880, expecting at least 25952"},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(print_internal(c.objtype, c.view, c.bytes),
+                  (Shown{std::string("\nzel_l2fib_print_internal: data_size is ") + c.sizes, L2FIB_SHOW_ERR_DATA}));
+    }
+}
+
+TEST_F(Entry, ObjectsWithoutAView)
+{
+    const std::string detail = "zel_l2fib_print_internal_detail: Wrong L2FIB objtype 5 action 100";
+    EXPECT_EQ(print_internal(L2FIB_OBJTYPE_VNI, L2FIB_VIEW_DETAIL, Bytes(8)), Shown{detail});
+    EXPECT_EQ(print_internal(L2FIB_OBJTYPE_VNI, 0, Bytes(8)), Shown{detail});
+    EXPECT_EQ(print_internal(L2FIB_OBJTYPE_MCAST_LEAF, L2FIB_VIEW_DETAIL, Bytes(8)), Shown{""});
+    EXPECT_EQ(print_internal(L2FIB_OBJTYPE_NHOP, L2FIB_VIEW_DETAIL, Bytes(8)), Shown{"\n"});
+    EXPECT_EQ(print_internal(L2FIB_OBJTYPE_VNI, 3, Bytes(8)),
+              Shown{"\n  zel_l2fib_print_internal_private: Wrong L2FIB objtype 5 action 100"
+                    "zel_l2fib_trident_print_internal_private: Wrong L2FIB objtype 5 action 100"});
+    EXPECT_EQ(print_internal(L2FIB_OBJTYPE_MPLS, 6, Bytes(1)), Shown{"\n  Platform object MPLS not handled"});
+    EXPECT_EQ(print_internal(40, 6, Bytes(1)), Shown{"\n  Platform object Invalid not handled"});
+}
+
+TEST_F(Entry, HardwareViewsByFlags)
+{
+    Bytes bytes(8);
+    const auto hardware = [&](std::uint32_t objtype, std::uint32_t view_flags) {
+        return shown(
+            [&] { return zel_l2fib_trident_print_internal(1, objtype, 0, 2, view_flags, bytes.data(), bytes.size()); });
+    };
+    EXPECT_EQ(hardware(15, 9), Shown{"\n  zel_l2fib_trident_print_internal_detail: Wrong L2FIB objtype 15 action 100"});
+    EXPECT_EQ(hardware(15, 3), Shown{"zel_l2fib_trident_print_internal_private: Wrong L2FIB objtype 15 action 100"});
+    EXPECT_EQ(hardware(15, 7), Shown{"\n  Hardware object MSTI MAIN PORT not handled"});
+    EXPECT_EQ(hardware(15, 0), Shown{""});
+    EXPECT_EQ(hardware(15, 8), Shown{""});
+    EXPECT_EQ(hardware(L2FIB_OBJTYPE_AC, 2), Shown{""});
+    EXPECT_EQ(hardware(L2FIB_OBJTYPE_BRIDGE_PORT, 1), Shown{""});
+}
+
+TEST_F(Entry, EmptySlotLeavesTheHardwareOut)
+{
+    Bytes bytes(2000);
+    zel_l2fib_hal_print[1].object_print = nullptr;
+    EXPECT_EQ(shown([&] { return zel_l2fib_print_internal_detail(6, 0, 1, 1, bytes.data(), bytes.size()); }),
+              Shown{"\n"});
+    print_internal(L2FIB_OBJTYPE_NHOP, L2FIB_VIEW_DETAIL, bytes);
+    EXPECT_EQ(zel_l2fib_hal_print[1].object_print, zel_l2fib_trident_print_internal);
+    EXPECT_EQ(zel_l2fib_hal_print[0].object_print, nullptr);
+}
+
+TEST_F(Entry, Sizes)
+{
+    const struct {
+        std::uint32_t objtype;
+        std::uint8_t nps;
+        std::uint64_t size;
+    } cases[] = {{2, 3, 164},  {3, 9, 304},  {4, 0, 25},  {5, 0, 72},  {9, 0, 120}, {11, 8, 1088}, {13, 1, 2588},
+                 {14, 0, 116}, {16, 0, 412}, {21, 0, 48}, {28, 0, 96}, {29, 1, 0},  {6, 1, 0},     {0x80000002, 1, 0}};
+    for (const auto &c : cases) {
+        EXPECT_EQ(zel_l2fib_data_size(c.objtype, c.nps), c.size) << c.objtype;
+    }
+    EXPECT_EQ(zel_l2fib_hal_brg_feature_data_size(1, 8), 176U);
+    EXPECT_EQ(zel_l2fib_hal_brg_feature_data_size(2, 8), 2368U);
+    EXPECT_EQ(zel_l2fib_hal_brg_feature_data_size(3, 8), 0U);
+}
+
+} // namespace l2fib

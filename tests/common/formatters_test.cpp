@@ -1,0 +1,100 @@
+#include "common/formatters.h"
+#include "tests/support/printed.h"
+#include "tests/support/test_platform.h"
+#include "zel_l2fib/show.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <gtest/gtest.h>
+
+namespace l2fib
+{
+
+TEST(Formatters, ElapsedTimes)
+{
+    constexpr std::uint64_t ms = 1'000'000;
+    constexpr std::uint64_t s = 1000 * ms;
+    constexpr std::uint64_t day = 86'400 * s;
+    const struct {
+        std::uint64_t ns;
+        const char *text;
+    } cases[] = {
+        {0, "< 1 ms "},
+        {ms - 1, "< 1 ms "},
+        {ms, "0.1 s "},
+        {2 * s + 5 * ms, "2.5 s "},
+        {30 * s, "30 s"},
+        {59 * s + 999 * ms, "59.999 s "},
+        {60 * s, "1 m 0 s "},
+        {90 * s, "1 m 30 s "},
+        {3599 * s, "59 m 59 s "},
+        {3600 * s, "1 h 0 m "},
+        {day - s, "23 h 59 m "},
+        {day, "1 d 0 h "},
+        {100 * day - s, "99 d 23 h "},
+        {100 * day, "100 d "},
+        {UINT64_MAX, "213503 d "},
+    };
+    for (const auto &c : cases) {
+        char text[16];
+        EXPECT_EQ(zel_l2fib_print_elapsed(c.ns, text, sizeof text), static_cast<int>(std::strlen(c.text)));
+        EXPECT_STREQ(text, c.text) << c.ns;
+    }
+}
+
+TEST(Formatters, ElapsedTimeStaysInsideItsBuffer)
+{
+    char text[] = "zzzzzz";
+    EXPECT_EQ(zel_l2fib_print_elapsed(60'000'000'000, text, 4), 8);
+    EXPECT_EQ(std::string(text, sizeof text), std::string("1 m\0zz", 7));
+}
+
+TEST(Formatters, SplitHorizonGroups)
+{
+    const struct {
+        std::uint32_t group;
+        const char *text;
+    } cases[] = {{0, "None"}, {1, "VFI Enabled"}, {2, "Enabled"},
+                 {7, "7"},    {0xffffffff, "-1"}, {0x80000000, "-2147483648"}};
+    for (const auto &c : cases) {
+        EXPECT_STREQ(shg_text(c.group).chars, c.text);
+    }
+}
+
+TEST(Formatters, Addresses)
+{
+    const std::uint8_t mac[] = {0x00, 0x11, 0x22, 0x33, 0x44, 0xff};
+    const std::uint32_t ip = 0x0a0000ff;
+    EXPECT_EQ(printed([&] { EXPECT_EQ(print_mac(mac), 14); }), "0011.2233.44ff");
+    EXPECT_EQ(printed([&] { EXPECT_EQ(print_ip(&ip), 10); }), "10.0.0.255");
+}
+
+TEST(Formatters, WordsAreReadWhole)
+{
+    const GuardedBytes words({0, 0, 0, 1, 0xfe, 0xdc, 0xba, 0x98});
+    const struct {
+        int length;
+        const char *text;
+    } cases[] = {{-1, "[0x]"}, {0, "[0x]"}, {1, "[0x00000001]"}, {4, "[0x00000001]"}, {5, "[0x00000001 fedcba98]"}};
+    for (const auto &c : cases) {
+        int count = 0;
+        EXPECT_EQ(printed([&] { count = print_words(words.data(), c.length); }), c.text);
+        EXPECT_EQ(count, static_cast<int>(std::strlen(c.text)));
+    }
+}
+
+TEST(Formatters, StampsAreOnTheMonotonicClock)
+{
+    setenv("TZ", "UTC", 1);
+    tzset();
+    EXPECT_STREQ(timestamp_text(0).chars, "N/A");
+
+    // A clock that started with the epoch makes the stamp a wall-clock time.
+    test_platform.monotonic_seconds = static_cast<std::uint64_t>(std::time(nullptr));
+    const std::string text = timestamp_text(1'700'000'000'900'000'000).chars;
+    EXPECT_TRUE(text == "11/14/2023 22:13:20" || text == "11/14/2023 22:13:21") << text; // a second may have passed
+    test_platform = {};
+}
+
+} // namespace l2fib

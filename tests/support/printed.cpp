@@ -1,0 +1,55 @@
+#include "tests/support/printed.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <ostream>
+#include <stdexcept>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace l2fib
+{
+
+std::string printed(const std::function<void()> &call)
+{
+    std::fflush(stdout);
+    const int screen = dup(STDOUT_FILENO);
+    const int file = memfd_create("printed", 0);
+    dup2(file, STDOUT_FILENO);
+    call();
+    std::fflush(stdout);
+    dup2(screen, STDOUT_FILENO);
+    close(screen);
+    std::string text(static_cast<std::size_t>(lseek(file, 0, SEEK_CUR)), '\0');
+    if (pread(file, text.data(), text.size(), 0) != static_cast<ssize_t>(text.size())) {
+        throw std::runtime_error("printed text cannot be read back");
+    }
+    close(file);
+    return text;
+}
+
+GuardedBytes::GuardedBytes(const std::vector<std::uint8_t> &bytes) : size_(bytes.size())
+{
+    const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    const std::size_t readable = (bytes.size() + page) / page * page;
+    mapped_ = readable + page;
+    mapping_ = mmap(nullptr, mapped_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (mapping_ == MAP_FAILED || mprotect(static_cast<std::uint8_t *>(mapping_) + readable, page, PROT_NONE) != 0) {
+        throw std::runtime_error("no guarded memory");
+    }
+    data_ = static_cast<std::uint8_t *>(mapping_) + readable - bytes.size();
+    std::copy(bytes.begin(), bytes.end(), data_);
+}
+
+GuardedBytes::~GuardedBytes()
+{
+    munmap(mapping_, mapped_);
+}
+
+std::ostream &operator<<(std::ostream &out, const Shown &shown)
+{
+    out << shown.text;
+    return shown.status == 0 ? out : out << "\n[status 0x" << std::hex << shown.status << std::dec << ']';
+}
+
+} // namespace l2fib

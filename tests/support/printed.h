@@ -1,0 +1,51 @@
+// What the library prints, and where its show data ends.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace l2fib
+{
+
+/// The text that a call leaves on standard output.
+std::string printed(const std::function<void()> &call);
+
+/// Bytes that end at an unreadable page, so that a read behind them ends the test.
+class GuardedBytes
+{
+public:
+    explicit GuardedBytes(const std::vector<std::uint8_t> &bytes);
+    ~GuardedBytes();
+    GuardedBytes(const GuardedBytes &) = delete;
+    GuardedBytes &operator=(const GuardedBytes &) = delete;
+
+    [[nodiscard]] std::uint8_t *data() const { return data_; }
+    [[nodiscard]] std::uint64_t size() const { return size_; }
+
+private:
+    void *mapping_;
+    std::size_t mapped_;
+    std::uint8_t *data_;
+    std::uint64_t size_;
+};
+
+/// What came of showing an object: the text, and the status on a line of its own unless it is 0.
+struct Shown {
+    std::string text;
+    std::uint32_t status = 0;
+
+    bool operator==(const Shown &) const = default;
+};
+std::ostream &operator<<(std::ostream &out, const Shown &shown);
+
+template <class Call>
+Shown shown(const Call &call)
+{
+    Shown result;
+    result.text = printed([&] { result.status = call(); });
+    return result;
+}
+
+} // namespace l2fib
