@@ -11,9 +11,9 @@
 namespace l2fib
 {
 
-static void PrintTo(const SampleCapture &sample, std::ostream *out)
+static std::ostream &operator<<(std::ostream &out, const SampleCapture &sample)
 {
-    *out << sample.name;
+    return out << sample.name;
 }
 
 static std::string file_text(const std::string &path)
