@@ -40,6 +40,14 @@ public:
         text<Args...>(format, args...);
     }
 
+    /// The line that a show command begins with: there is none before it to end.
+    template <class... Args>
+    void first_line(std::uint32_t level, Format<std::type_identity_t<Args>...> format, const Args &...args)
+    {
+        indent(level);
+        text<Args...>(format, args...);
+    }
+
 private:
     int print(const char *format, ...);
 

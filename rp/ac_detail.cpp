@@ -39,8 +39,7 @@ void print_ac_detail(Output &out, std::uint32_t direction, std::uint8_t *show_da
     AcContext &ac = ShowData::promised<AcShowData>(show_data).context;
     ac.to_host();
 
-    out.indent(1);
-    out.text("Platform AC context:");
+    out.first_line(1, "Platform AC context:");
 
     List summary{out, 1};
     print_direction(summary, direction);

@@ -17,6 +17,9 @@ static constexpr DetailView detail_views[] = {
     {L2FIB_OBJTYPE_AC, print_ac_detail, 1},
     {L2FIB_OBJTYPE_MPLS, print_pw_detail, 1},
     {L2FIB_OBJTYPE_NHOP, nullptr, 1},
+    {L2FIB_OBJTYPE_BRIDGE, print_bridge_detail, 2},
+    {L2FIB_OBJTYPE_BRIDGE_PORT, print_bridge_port_detail, 2},
+    {L2FIB_OBJTYPE_BRIDGE_MAC, print_bridge_mac_detail, 1},
 };
 
 static const DetailView *detail_view(std::uint32_t objtype)

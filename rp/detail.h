@@ -9,6 +9,9 @@ namespace l2fib
 
 void print_ac_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data);
 void print_pw_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data);
+void print_bridge_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data);
+void print_bridge_port_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data);
+void print_bridge_mac_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data);
 
 /// The word that opens an object's first line; what follows it follows without a comma.
 inline void print_direction(List &line, std::uint32_t direction)

@@ -33,8 +33,7 @@ void print_pw_detail(Output &out, std::uint32_t direction, std::uint8_t *show_da
     auto &pw = ShowData::promised<PwContext>(show_data);
     pw.to_host();
 
-    out.indent(1);
-    out.text("Platform PW context:");
+    out.first_line(1, "Platform PW context:");
 
     List summary{out, 1};
     print_direction(summary, direction);

@@ -1,0 +1,94 @@
+#include "common/formatters.h"
+#include "common/show_data.h"
+#include "rp/bridge_port_context.h"
+#include "rp/detail.h"
+#include "rp/names.h"
+
+namespace l2fib
+{
+
+/// The flags that an operator sees as one list stand in three words of the record.
+struct PortFlag {
+    enum Word : std::uint8_t { port, feature, more_feature };
+
+    Word word;
+    unsigned number;
+    const char *text;
+};
+
+static constexpr PortFlag port_flags[] = {
+    {PortFlag::feature, FeatureFlags::admin_down, "admin-down"},
+    {PortFlag::feature, FeatureFlags::flood_disable, "flood-disble"}, // spelled so on every screen
+    {PortFlag::feature, FeatureFlags::flood_unknown_unicast_disable, "flood-unknown-unicast-disable"},
+    {PortFlag::feature, FeatureFlags::mac_learn_disable, "mac-learn-disable"},
+    {PortFlag::feature, FeatureFlags::mac_learn_disable_cfg, "mac-learn-disable-cfg"},
+    {PortFlag::feature, FeatureFlags::dhcp_snoop_enable, "dhcp-snoop-enable"},
+    {PortFlag::feature, FeatureFlags::dhcp_trusted, "DHCP-trusted"},
+    {PortFlag::more_feature, FeatureFlags::igmp_snoop_enable, "igmp-snoop-enable"},
+    {PortFlag::feature, FeatureFlags::mac_sec_enable, "mac-sec-enable"},
+    {PortFlag::feature, FeatureFlags::mac_sec_log, "mac-sec-log"},
+    {PortFlag::feature, FeatureFlags::mac_limit_reached, "mac-limit-reached"},
+    {PortFlag::feature, FeatureFlags::dai_enabled, "dai_enabled"},
+    {PortFlag::feature, FeatureFlags::dai_ipv4, "dai-ipv4"},
+    {PortFlag::feature, FeatureFlags::dai_src_mac, "dai-src-mac"},
+    {PortFlag::feature, FeatureFlags::dai_dst_mac, "dai-dst-mac"},
+    {PortFlag::feature, FeatureFlags::dai_log, "dai-log"},
+    {PortFlag::feature, FeatureFlags::ipsg_enabled, "ipsg-enabled"},
+    {PortFlag::feature, FeatureFlags::ipsg_log, "ipsg-log"},
+    {PortFlag::feature, FeatureFlags::mac_port_flush_disabled, "mac-port-flush-disabled"},
+    {PortFlag::port, BridgePortContext::evpn_egress_mc_blocked, "evpn-egr-mc-blocked"},
+    {PortFlag::port, BridgePortContext::bundle_port, "bundle_port"},
+    {PortFlag::port, BridgePortContext::msti_enabled, "MSTI enabled"},
+    {PortFlag::port, BridgePortContext::msti_learn_only, "MSTI learn-only"},
+    {PortFlag::port, BridgePortContext::msti_ingress_blocked, "MSTI ingress blocked"},
+    {PortFlag::port, BridgePortContext::msti_egress_blocked, "MSTI egress blocked"},
+};
+
+static bool is_set(const BridgePortContext &port, const PortFlag &flag)
+{
+    switch (flag.word) {
+    case PortFlag::port: return port.flags.test(flag.number);
+    case PortFlag::feature: return port.features.features.test(flag.number);
+    case PortFlag::more_feature: return port.features.more.test(flag.number);
+    }
+    return false;
+}
+
+/// In small letters, unlike the other names.
+static const char *p2mp_role_name(std::uint32_t role)
+{
+    constexpr const char *names[] = {"unknown", "head", "mid", "bud", "tail"};
+    return name_of(names, role, "invalid");
+}
+
+void print_bridge_port_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data)
+{
+    auto &port = ShowData::promised<BridgePortContext>(show_data);
+    port.to_host();
+
+    out.first_line(1, "Platform Bridge Port context:");
+    out.line(1, "Last notification sent at: %s", timestamp_text(port.last_notification));
+
+    List summary{out, 1};
+    print_direction(summary, direction);
+    summary.item("State: %s", state_name(port.state));
+
+    List flags{out, 2, "Flags"};
+    for (const PortFlag &flag : port_flags) {
+        flags.item_if(is_set(port, flag), "%s", flag.text);
+    }
+    flags.none_if_empty();
+
+    const auto &features = port.features.features;
+    List forwarding{out, 2};
+    forwarding.item("pi_xid: 0x%08x", port.pi_xid);
+    forwarding.item_if(port.flags.test(BridgePortContext::lb_type_valid), "lb_type: %d", port.lb_type);
+    forwarding.item_if(features.test(FeatureFlags::mac_sec_enable), "mac_secure_action: %d",
+                       features.get(FeatureFlags::mac_secure_action));
+    if (port.flags.test(BridgePortContext::p2mp_pw_enabled)) {
+        forwarding.item("P2MP PW enabled");
+        forwarding.item("P2MP Role: %s", p2mp_role_name(port.p2mp_role));
+    }
+}
+
+} // namespace l2fib
