@@ -54,6 +54,9 @@ public:
         }
     }
 
+    /// Has the items from here on continue at another indentation.
+    void continue_at(std::uint32_t level) { continuation_ = static_cast<int>(2 * level); }
+
     /// What a list of flags shows when none was set.
     void none_if_empty()
     {

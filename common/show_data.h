@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <type_traits>
 
 namespace l2fib
@@ -31,6 +32,14 @@ public:
     [[nodiscard]] Record *at(std::uint64_t offset) const
     {
         return !is_null() && holds(offset, sizeof(Record)) ? &promised<Record>(begin_ + offset) : nullptr;
+    }
+
+    /// The records from an offset on, none unless all of them lie inside the show data.
+    template <ShowDataRecord Record>
+    [[nodiscard]] std::span<Record> array_at(std::uint64_t offset, std::uint32_t count) const
+    {
+        auto *first = holds(offset, std::uint64_t{count} * sizeof(Record)) ? at<Record>(offset) : nullptr;
+        return first == nullptr ? std::span<Record>{} : std::span<Record>{first, count};
     }
 
     /// What lies behind an offset; null show data where nothing does.

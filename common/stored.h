@@ -64,13 +64,15 @@ constexpr FieldRun wide(unsigned width)
 /// A word of packed bit-fields, described in the producer's order, for example Packed<U32, one_bit(23), wide(9)>.
 ///
 /// The producer fills the big-endian word from its most significant bit downwards; the host fills its word from the
-/// least significant bit upwards. Fields keep their values and their order, and are numbered from 0.
+/// least significant bit upwards. Fields keep their values and their order, and are numbered from 0. Where they end
+/// before the word does, the bytes behind them are no part of it and stay as received.
 template <class Word, FieldRun... runs>
 class Packed
 {
     using Bits = typename Word::Value;
     static constexpr unsigned word_width = 8 * sizeof(Bits);
-    static_assert(((runs.count * runs.width) + ...) == word_width);
+    static constexpr unsigned used_width = ((runs.count * runs.width) + ...);
+    static_assert(used_width <= word_width);
 
     static constexpr unsigned field_count = (runs.count + ...);
 
@@ -114,7 +116,8 @@ public:
             const unsigned wire_start = word_width - field.width - field.start;
             host = static_cast<Bits>(host | (static_cast<Bits>(wire >> wire_start) & mask(field)) << field.start);
         }
-        word.bytes = std::bit_cast<decltype(word.bytes)>(host);
+        const auto host_bytes = std::bit_cast<decltype(word.bytes)>(host);
+        std::copy_n(host_bytes.begin(), (used_width + 7) / 8, word.bytes.begin());
     }
 
     /// The big-endian bits of a field that holds `value`: how a producer sets it.

@@ -4,10 +4,11 @@
 #include "common/list.h"
 #include "common/objtype.h"
 #include "hw/ac_handler.h"
+#include "hw/mac_handler.h"
+#include "hw/pw_handler.h"
 #include "platform/platform.h"
 #include "rp/ac_context.h"
 #include "rp/names.h"
-#include "rp/pw_context.h"
 
 namespace l2fib
 {
@@ -49,6 +50,29 @@ static std::uint32_t print_ac(Output &out, std::uint32_t level, std::uint32_t di
     return status;
 }
 
+/// Reports, for a view, an object whose handler failed.
+static void report_handler_failure(Output &out, std::uint32_t level, const char *view, std::uint32_t objtype,
+                                   std::uint32_t status)
+{
+    if (status != 0) {
+        out.line(level, "%s: print handler failed for objtype %d : %s", view, objtype, status_text(status));
+    }
+}
+
+static std::uint32_t print_pw(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
+{
+    auto *pw = data.at<PwContext>(0);
+    if (pw == nullptr) {
+        return zel_l2fib_pw_print_handler(out, level, direction, data);
+    }
+    to_host(pw->platform_words, pw->layer_flags);
+    if (pw->service == service_vpls) {
+        List keys{out, level};
+        keys.item("Port Learn Key: %u", pw->port_learn_key);
+    }
+    return pw->state == state_bound ? zel_l2fib_pw_print_handler(out, level, direction, data) : 0;
+}
+
 } // namespace l2fib
 
 uint32_t zel_l2fib_trident_print_internal(uint32_t level, uint32_t objtype, uint32_t node_id, uint32_t direction,
@@ -77,12 +101,17 @@ uint32_t zel_l2fib_trident_print_internal_detail(uint32_t level, uint32_t objtyp
     using namespace l2fib;
     Output out;
     const ShowData data{show_data, size};
+    std::uint32_t status = 0;
     switch (objtype) {
     case L2FIB_OBJTYPE_AC: return print_ac(out, level, direction, data, __func__);
+    case L2FIB_OBJTYPE_MPLS: status = print_pw(out, level, direction, data); break;
+    case L2FIB_OBJTYPE_BRIDGE_MAC: status = zel_l2fib_mac_print_handler(out, level, data); break;
     case L2FIB_OBJTYPE_NHOP:
     case L2FIB_OBJTYPE_BRIDGE_PORT: return 0; // the RP's context is all there is
     default: out.line(level); return wrong_objtype(out, __func__, objtype);
     }
+    report_handler_failure(out, level, __func__, objtype, status);
+    return status;
 }
 
 uint32_t zel_l2fib_trident_print_internal_private(uint32_t /*level*/, uint32_t objtype, uint32_t /*card_type*/,

@@ -35,8 +35,7 @@ struct FeatureFlags {
 
     FlagWord<one_bit(5), wide(2), wide(2), one_bit(7), wide(2), one_bit(14)> features;
     FlagWord<one_bit(32)> more;
-    FlagByte<one_bit(2), wide(6)> unread_8;
-    Bytes<3> unread_9;
+    FlagWord<one_bit(2), wide(6)> unread_8;
 
     void to_host() { l2fib::to_host(features, more, unread_8); }
 };

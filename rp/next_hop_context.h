@@ -23,8 +23,7 @@ struct NextHopContext {
     Bytes<2946> unread_22858;
     U32 unread_25804;
     U16 unread_25808[2];
-    FlagByte<one_bit(2), wide(6)> unread_25812;
-    Bytes<3> unread_25813;
+    FlagWord<one_bit(2), wide(6)> unread_25812;
     U8 ecd_version; // 25816
     U8 ecd_type;    // 25817
     Bytes<2> unread_25818;

@@ -23,8 +23,7 @@ static_assert(sizeof(PathDescriptor) == 8);
 struct PathState {
     enum Flag : unsigned { unresolved = 0, backup_valid = 1 };
 
-    FlagByte<one_bit(2), wide(6)> flags;
-    Bytes<3> unread_1;
+    FlagWord<one_bit(2), wide(6)> flags;
 
     void to_host() { flags.to_host(); }
 };

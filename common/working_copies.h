@@ -1,0 +1,39 @@
+// Working copies of records, where the show data itself must stay as it was received.
+#pragma once
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <type_traits>
+
+namespace l2fib
+{
+
+/// Records on the heap for as long as their view runs: the only memory that the library allocates.
+template <class Record>
+class WorkingCopies
+{
+    static_assert(std::is_trivially_copyable_v<Record>);
+
+public:
+    WorkingCopies(std::size_t count, std::uint8_t fill)
+        : records_(static_cast<Record *>(std::malloc(count * sizeof(Record))))
+    {
+        if (records_ != nullptr) {
+            std::memset(static_cast<void *>(records_), fill, count * sizeof(Record));
+        }
+    }
+    ~WorkingCopies() { std::free(records_); }
+    WorkingCopies(const WorkingCopies &) = delete;
+    WorkingCopies &operator=(const WorkingCopies &) = delete;
+
+    /// False when there was no memory: there are no records then.
+    [[nodiscard]] bool obtained() const { return records_ != nullptr; }
+
+    Record &operator[](std::size_t index) { return records_[index]; }
+
+private:
+    Record *records_;
+};
+
+} // namespace l2fib

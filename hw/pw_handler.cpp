@@ -1,0 +1,146 @@
+#include "hw/pw_handler.h"
+
+#include "common/failure.h"
+#include "common/list.h"
+#include "common/working_copies.h"
+#include "hw/flooding.h"
+#include "hw/np.h"
+#include "rp/names.h"
+
+namespace l2fib
+{
+
+static constexpr FlagTable layer_flags{{{PwContext::layer_invalid, "invalid"}}};
+
+static std::uint32_t print_point_to_point(Output &out, std::uint32_t level, ShowData data, const char *handler)
+{
+    const auto *pw = data.at<PwShowData>(0);
+    if (pw == nullptr) {
+        return short_data(out, level, data.size(), sizeof(PwShowData));
+    }
+    const std::uint32_t np_count = pw->np_count.from_wire();
+    if (!np_count_is_valid(np_count)) {
+        out.line(level);
+        print_invalid_np_count(out, np_count);
+        return 0;
+    }
+    const auto records = data.array_at<PwNpRecord>(sizeof(PwShowData), np_count);
+    if (records.empty()) {
+        return short_data(out, level, data.size(), sizeof(PwShowData) + np_count * sizeof(PwNpRecord));
+    }
+    std::uint32_t status = 0;
+    for (PwNpRecord &record : records) {
+        out.line(level, "NP%d", record.np.from_wire());
+        status = zel_l2fib_print_xid_entry(out, level + 1, pw->context.xid, &record.xid);
+        report_xid_failure(out, level, handler, pw->context.xid, status);
+    }
+    return status;
+}
+
+/// The rest of a path's line: where it leaves the router. Its values continue at the line's indentation, its flags under
+/// the first of them.
+static void print_path(List &line, std::uint32_t level, const PathDescriptor &path)
+{
+    if (!path.flags.test(PathDescriptor::ifhandle_valid)) {
+        line.item("ifhandle invalid");
+        return;
+    }
+    line.item_if(path.flags.test(PathDescriptor::lag), "LAG");
+    line.continue_at(level);
+    line.item("ifhandle: 0x%08x", path.ifhandle);
+    line.item("sfp_or_lagid: 0x%04x", path.sfp_or_lagid);
+}
+
+static void print_paths(Output &out, std::uint32_t level, const Layer3Paths &paths)
+{
+    List primary{out, level, "Primary L3 path"};
+    if (paths.state.flags.test(PathState::unresolved)) {
+        primary.item("Unresolved"); // and without a primary path there is no backup
+        return;
+    }
+    print_path(primary, level, paths.primary);
+
+    List backup{out, level, "Backup L3 path"};
+    if (!paths.state.flags.test(PathState::backup_valid)) {
+        backup.item("Not set");
+        return;
+    }
+    print_path(backup, level, paths.backup);
+}
+
+/// Prints from copies: the show data keeps the ingress part as it was received.
+static void print_vpls_ingress(Output &out, std::uint32_t level, const PwIngressBlock &ingress, BridgePortContext &port)
+{
+    port = ingress.port;
+    port.to_host();
+    print_flooding(out, level, port);
+
+    Layer3Paths paths = ingress.paths;
+    paths.to_host();
+    print_paths(out, level, paths);
+}
+
+static std::uint32_t print_vpls(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data,
+                                const char *handler)
+{
+    const PwContext &context = *data.at<PwContext>(0);
+    print_flags(out, level, "Trident Layer Flags", layer_flags, context.layer_flags);
+
+    WorkingCopies<BridgePortContext> port(1, 0xff);
+    if (!port.obtained()) {
+        return L2FIB_SHOW_ERR_NOMEM;
+    }
+    const auto *pw = data.at<PwShowData>(0);
+    if (pw == nullptr) {
+        return short_data(out, level, data.size(), sizeof(PwShowData));
+    }
+    const std::uint32_t np_count = pw->np_count.from_wire();
+    if (!np_count_is_valid(np_count)) {
+        print_invalid_np_count(out, np_count); // behind the layer flags, on their line
+        return 0;
+    }
+    WorkingCopies<StormControlProfile> profiles(np_count, 0);
+    if (!profiles.obtained()) {
+        return L2FIB_SHOW_ERR_NOMEM;
+    }
+    const auto entries = data.array_at<XidEntry>(sizeof(PwShowData), np_count);
+    if (entries.empty()) {
+        return short_data(out, level, data.size(), sizeof(PwShowData) + np_count * sizeof(XidEntry));
+    }
+    const std::uint64_t ingress_offset = sizeof(PwShowData) + entries.size_bytes();
+    const auto *ingress = data.at<PwIngressBlock>(ingress_offset);
+    const auto stored_profiles =
+        data.array_at<StormControlProfile>(ingress_offset + sizeof(PwIngressBlock), np_count);
+    if (direction == L2FIB_INGRESS && ingress != nullptr && !stored_profiles.empty()) {
+        print_vpls_ingress(out, level, *ingress, port[0]);
+        for (std::uint32_t np = 0; np < np_count; ++np) {
+            profiles[np] = stored_profiles[np];
+            profiles[np].to_host();
+        }
+    }
+    std::uint32_t status = 0;
+    for (std::uint32_t np = 0; np < np_count; ++np) {
+        out.line(level, "NP%d", np);
+        status = zel_l2fib_print_xid_entry(out, level + 1, context.xid, &entries[np]);
+        report_xid_failure(out, level + 1, handler, context.xid, status);
+    }
+    return status;
+}
+
+std::uint32_t zel_l2fib_pw_print_handler(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
+{
+    if (data.is_null()) {
+        return null_arguments(out, level, __func__);
+    }
+    const auto *context = data.at<PwContext>(0);
+    if (context == nullptr) {
+        return L2FIB_SHOW_ERR_DATA;
+    }
+    switch (context->service) {
+    case service_mtun: return print_point_to_point(out, level, data, __func__);
+    case service_vpls: return print_vpls(out, level, direction, data, __func__);
+    default: return L2FIB_SHOW_ERR_DATA;
+    }
+}
+
+} // namespace l2fib
