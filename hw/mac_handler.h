@@ -20,12 +20,12 @@ struct MacEntry {
     U32 xid_learn_key;           // 16
     U32 learn_limit_count_index; // 20
     U32 unread_24[2];
-    Bytes<6> bmac;               // 32  backbone MAC
-    U16 esi;                     // 38
-    U16 ldi;                     // 40
-    U32 evpn_label;              // 42  from here on unaligned
+    Bytes<6> bmac;  // 32  backbone MAC
+    U16 esi;        // 38
+    U16 ldi;        // 40
+    U32 evpn_label; // 42  from here on unaligned
     U8 unread_46;
-    U16 learned_vlan;            // 47
+    U16 learned_vlan; // 47
     U8 unread_49;
     U32 unread_50;
     U16 unread_54;

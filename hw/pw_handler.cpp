@@ -37,8 +37,8 @@ static std::uint32_t print_point_to_point(Output &out, std::uint32_t level, Show
     return status;
 }
 
-/// The rest of a path's line: where it leaves the router. Its values continue at the line's indentation, its flags under
-/// the first of them.
+/// The rest of a path's line: where it leaves the router. Its values continue at the line's indentation, its flags
+/// under the first of them.
 static void print_path(List &line, std::uint32_t level, const PathDescriptor &path)
 {
     if (!path.flags.test(PathDescriptor::ifhandle_valid)) {
@@ -109,8 +109,7 @@ static std::uint32_t print_vpls(Output &out, std::uint32_t level, std::uint32_t 
     }
     const std::uint64_t ingress_offset = sizeof(PwShowData) + entries.size_bytes();
     const auto *ingress = data.at<PwIngressBlock>(ingress_offset);
-    const auto stored_profiles =
-        data.array_at<StormControlProfile>(ingress_offset + sizeof(PwIngressBlock), np_count);
+    const auto stored_profiles = data.array_at<StormControlProfile>(ingress_offset + sizeof(PwIngressBlock), np_count);
     if (direction == L2FIB_INGRESS && ingress != nullptr && !stored_profiles.empty()) {
         print_vpls_ingress(out, level, *ingress, port[0]);
         for (std::uint32_t np = 0; np < np_count; ++np) {

@@ -4,6 +4,7 @@
 #include "common/list.h"
 #include "common/objtype.h"
 #include "hw/ac_handler.h"
+#include "hw/bridge_handler.h"
 #include "hw/mac_handler.h"
 #include "hw/pw_handler.h"
 #include "platform/platform.h"
@@ -73,6 +74,19 @@ static std::uint32_t print_pw(Output &out, std::uint32_t level, std::uint32_t di
     return pw->state == state_bound ? zel_l2fib_pw_print_handler(out, level, direction, data) : 0;
 }
 
+/// A bridge without show data is its handler's to report; one with some begins with the HAL's context.
+static std::uint32_t print_bridge_view(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data,
+                                       const char *view)
+{
+    const std::uint32_t status = data.is_null() ? zel_l2fib_brg_print_handler(out, level, direction, data)
+                                                : print_bridge(out, level, direction, data);
+    report_handler_failure(out, level + 1, view, L2FIB_OBJTYPE_BRIDGE, status);
+    if (status != 0) {
+        out.text("\n"); // the one failure whose line is ended
+    }
+    return status;
+}
+
 } // namespace l2fib
 
 uint32_t zel_l2fib_trident_print_internal(uint32_t level, uint32_t objtype, uint32_t node_id, uint32_t direction,
@@ -105,6 +119,7 @@ uint32_t zel_l2fib_trident_print_internal_detail(uint32_t level, uint32_t objtyp
     switch (objtype) {
     case L2FIB_OBJTYPE_AC: return print_ac(out, level, direction, data, __func__);
     case L2FIB_OBJTYPE_MPLS: status = print_pw(out, level, direction, data); break;
+    case L2FIB_OBJTYPE_BRIDGE: return print_bridge_view(out, level, direction, data, __func__);
     case L2FIB_OBJTYPE_BRIDGE_MAC: status = zel_l2fib_mac_print_handler(out, level, data); break;
     case L2FIB_OBJTYPE_NHOP:
     case L2FIB_OBJTYPE_BRIDGE_PORT: return 0; // the RP's context is all there is

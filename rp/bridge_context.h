@@ -101,6 +101,11 @@ struct BridgeContext {
 
     [[nodiscard]] bool bvi_present() const { return features.more.test(FeatureFlags::bvi_present); }
 
+    /// Whether the hardware's part carries the statistics pointers, and the indices and counts of BVIs.
+    [[nodiscard]] bool has_feature_block_1() const;
+    /// Whether it carries the state of storm control.
+    [[nodiscard]] bool has_feature_block_2() const;
+
     void to_host();
 };
 static_assert(sizeof(BridgeContext) == 928 && offsetof(BridgeContext, flags) == 152 &&

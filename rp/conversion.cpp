@@ -1,4 +1,4 @@
-// The conversion of the RP's contexts to host order, and the feature test on a converted bridge.
+// The conversion of the RP's contexts to host order.
 #include "common/show_data.h"
 #include "rp/ac_context.h"
 #include "rp/bridge_context.h"
@@ -43,27 +43,6 @@ void BridgeMacContext::to_host()
     l2fib::to_host(version, state, flags, bridge_id);
 }
 
-/// Feature block 1 carries the counters and indices of statistics, BVI and EVPN.
-static bool has_feature_block_1(const BridgeContext &bridge)
-{
-    // Fields 8, 12 and 25 count here and nowhere else.
-    for (const unsigned flag : {8U, unsigned{BridgeContext::pbb_statistics_pointer}, 12U,
-                                unsigned{BridgeContext::evpn_statistics_pointer}, 25U}) {
-        if (bridge.flags.test(flag)) {
-            return true;
-        }
-    }
-    return bridge.bvi_present() || bridge.flags.test(BridgeContext::next_hop_has_bvi);
-}
-
-/// Feature block 2 carries the state of storm control.
-static bool has_feature_block_2(const BridgeContext &bridge)
-{
-    const auto &features = bridge.features.features;
-    return features.test(FeatureFlags::storm_control_unknown_unicast) ||
-           features.test(FeatureFlags::storm_control_broadcast) || features.test(FeatureFlags::storm_control_multicast);
-}
-
 } // namespace l2fib
 
 void zel_l2fib_rp_obj_endian_xform_ctx(uint32_t objtype, uint8_t *context)
@@ -76,19 +55,5 @@ void zel_l2fib_rp_obj_endian_xform_ctx(uint32_t objtype, uint8_t *context)
     case L2FIB_OBJTYPE_BRIDGE_PORT: ShowData::promised<BridgePortContext>(context).to_host(); break;
     case L2FIB_OBJTYPE_BRIDGE_MAC: ShowData::promised<BridgeMacContext>(context).to_host(); break;
     default: break;
-    }
-}
-
-uint8_t zel_l2fib_rp_brg_feat_block_control_flags_en(const uint8_t *context, uint32_t block)
-{
-    using namespace l2fib;
-    if (context == nullptr) {
-        return 0;
-    }
-    const auto &bridge = ShowData::promised<const BridgeContext>(context);
-    switch (static_cast<std::uint8_t>(block)) {
-    case 1: return has_feature_block_1(bridge) ? 1 : 0;
-    case 2: return has_feature_block_2(bridge) ? 1 : 0;
-    default: return 0;
     }
 }

@@ -1,0 +1,92 @@
+#include "hw/bridge_domain.h"
+
+#include "common/list.h"
+
+namespace l2fib
+{
+
+static constexpr FlagTable bridge_domain_flags{{
+    {0, "Virtual Table"},
+    {1, "PBB Core"},
+    {BridgeDomainRecord::pbb_enable, "PBB Enable"},
+    {BridgeDomainRecord::pbb_evpn_bd, "PBB EVPN BD"},
+    {BridgeDomainRecord::evpn_bd, "EVPN BD"},
+    {5, "IGMP Snoop Enable"},
+    {6, "MLD Snoop Enable"},
+    {7, "Multicast Flooding"},
+    {8, "CorePW Present"},
+    {9, "Learn Enable"},
+    {10, "No members this LC"},
+    {BridgeDomainRecord::single_shg0_np, "Single SHG0 NP"},
+    {12, "SHG2 Only"},
+    {13, "PBB Core to Edge Enable"},
+    {14, "PBB Edge to Core Enable"},
+    {15, "No Learn"},
+    {16, "Learn Drop"},
+    {17, "PBB ISID Flood"},
+    {18, "MMRP Enabled"},
+    {BridgeDomainRecord::bvi, "BVI"},
+    {BridgeDomainRecord::vni, "VNI"},
+    {21, "Rmt Rack SHG2"},
+    {22, "Rmt Rack SHG1"},
+    {23, "Rmt Rack SHG0"},
+    {BridgeDomainRecord::p2mp_tree_enabled, "P2MP Tree Enabled"},
+    {26, "PBB VPLS and eVPN"},
+    {27, "PW over BVI"},
+    {28, "EVPN Flow Label"},
+}};
+
+void BridgeDomainRecord::to_host()
+{
+    l2fib::to_host(flags, learn_key, members, fgid, learn_counter, mgid_index, unread_32, single_shg0_xid, half_age,
+                   unread_44, pbb_core_bridge_domain, isid, bvi_tcam_index, evpn_counter, vni_id, unread_68,
+                   head_end_ptree_internal_label);
+}
+
+static std::uint32_t upper_24_bits(std::uint32_t word)
+{
+    return word >> 8;
+}
+
+void print_bridge_domain_flags(Output &out, std::uint32_t level, const BridgeDomainRecord &domain)
+{
+    print_flags(out, level, "Flags", bridge_domain_flags, domain.flags);
+    if (domain.flags.test(BridgeDomainRecord::p2mp_tree_enabled)) {
+        List label{out, level};
+        label.item("Head-end P-Tree Int Label: %d ", domain.head_end_ptree_internal_label);
+    }
+}
+
+void print_bridge_domain_values(Output &out, std::uint32_t level, const BridgeDomainRecord &domain)
+{
+    const bool single_shg0_np = domain.flags.test(BridgeDomainRecord::single_shg0_np);
+    List members{out, level};
+    members.item("Num Members: %d", single_shg0_np ? std::uint32_t{1} : domain.members & 0xffffU);
+    members.item("Learn Key: 0x%02x", domain.learn_key);
+    members.item("Half Age: %d", domain.half_age);
+
+    List groups{out, level};
+    groups.item("fgid shg0: 0x%06x", domain.fgid[0]);
+    groups.item("fgid shg1: 0x%06x", domain.fgid[1]);
+    groups.item("fgid shg2: 0x%06x", domain.fgid[2]);
+    groups.item("mgid index: %d", domain.mgid_index);
+
+    if (single_shg0_np) {
+        out.line(level, "single_shg0_xid: 0x%08x", domain.single_shg0_xid);
+    }
+
+    List features{out, level};
+    if (domain.flags.test(BridgeDomainRecord::pbb_enable)) {
+        features.item("PBB Core BD: %u", domain.pbb_core_bridge_domain);
+        features.item("ISID: %u", upper_24_bits(domain.isid));
+    }
+    features.item("BD learn cntr: 0x%08x", domain.learn_counter);
+    features.item_if(domain.flags.test(BridgeDomainRecord::pbb_evpn_bd) ||
+                         domain.flags.test(BridgeDomainRecord::evpn_bd),
+                     "EVPN cntr: 0x%06x", upper_24_bits(domain.evpn_counter));
+    features.item_if(domain.flags.test(BridgeDomainRecord::vni), "vnid: %u", upper_24_bits(domain.vni_id));
+    features.item_if(domain.flags.test(BridgeDomainRecord::bvi), "BVI TCAM index: 0x%06x",
+                     upper_24_bits(domain.bvi_tcam_index));
+}
+
+} // namespace l2fib

@@ -1,0 +1,64 @@
+#include "hw/bridge_member.h"
+
+#include "common/list.h"
+
+namespace l2fib
+{
+
+static constexpr FlagTable member_flags{{
+    {0, "Active"},
+    {BridgeMemberRecord::irl_bport, "IRL Bport"},
+    {BridgeMemberRecord::evpn_ole, "EVPN OLE"},
+    {3, "EVPN SHG Label"},
+    {BridgeMemberRecord::evpn_label_hash, "EVPN Label Hash"},
+    {5, "Remote Rack SHG2"},
+    {6, "Remote Rack SHG1"},
+    {7, "Remote Rack SHG0"},
+    {8, "Local Rack Table"},
+}};
+
+static void print_copy(Output &out, std::uint32_t level, const BridgeMemberRecord &member,
+                       std::uint32_t irl_shg0_bound_members)
+{
+    // Flags and values share the line, and "None" is followed by the first value without a comma. The values continue
+    // one level further out than the line.
+    List line{out, level + 1, "Flags"};
+    line.flags(member_flags, member.flags);
+    line.none_if_empty();
+    line.continue_at(level);
+    if (member.flags.test(BridgeMemberRecord::evpn_ole)) {
+        line.item("Label: %u", member.label);
+        line.item("LDI: %u", member.ldi);
+        if (member.flags.test(BridgeMemberRecord::evpn_label_hash)) {
+            line.item("LAG Hash: 0x%2x", member.lag_hash);
+            line.item("nrLDI Hash: 0x%2x", member.nr_ldi_hash);
+            line.item("rLDI Hash: 0x%2x", member.r_ldi_hash);
+        }
+    } else if (member.flags.test(BridgeMemberRecord::irl_bport)) {
+        line.item("IRL shg0 bound members: %d", irl_shg0_bound_members);
+    } else {
+        line.item("XID: 0x%08x", member.xid);
+    }
+}
+
+void print_bridge_member(Output &out, std::uint32_t level, std::uint32_t member, std::span<BridgeMemberRecord> copies,
+                         std::uint32_t irl_shg0_bound_members)
+{
+    for (std::uint32_t copy = 0; copy < copies.size(); ++copy) {
+        copies[copy].to_host();
+        out.line(level, "Bridge Member %d, copy %d ", member, copy);
+        print_copy(out, level, copies[copy], irl_shg0_bound_members);
+    }
+}
+
+void print_pw_bvi_member(Output &out, std::uint32_t level, std::uint32_t member, std::span<BridgeMemberRecord> copies)
+{
+    for (std::uint32_t copy = 0; copy < copies.size(); ++copy) {
+        copies[copy].to_host();
+        out.line(level, "PW-BVI Bridge Member %d, copy %d ", member, copy);
+        List line{out, level + 1};
+        line.item("XID: 0x%08x", copies[copy].xid);
+    }
+}
+
+} // namespace l2fib
