@@ -24,6 +24,10 @@ struct ObjectCommand {
 
 static constexpr ObjectCommand object_commands[] = {
     {"ac", L2FIB_OBJTYPE_AC, "Show an attachment circuit"},
+    {"pw", L2FIB_OBJTYPE_MPLS, "Show a pseudowire"},
+    {"bridge", L2FIB_OBJTYPE_BRIDGE, "Show a bridge"},
+    {"bridge-port", L2FIB_OBJTYPE_BRIDGE_PORT, "Show a bridge port"},
+    {"mac", L2FIB_OBJTYPE_BRIDGE_MAC, "Show a MAC address of a bridge"},
 };
 
 static const std::map<std::string, std::uint32_t> views = {

@@ -10,7 +10,7 @@ namespace l2fib
 {
 
 struct Flag {
-    unsigned number; ///< a field of a Packed word, or a bit of a plain one with bit 31 as the top bit
+    unsigned number; ///< as the word's test() has it, or the bit of a plain number
     const char *text;
     const char *text_when_clear = nullptr; ///< of a bit that says which of two things holds: one of them is printed
 };

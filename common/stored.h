@@ -137,6 +137,15 @@ using FlagWord = Packed<U32, runs...>;
 template <FieldRun... runs>
 using FlagByte = Packed<U8, runs...>;
 
+/// A flag word of a hardware record. The hardware's documents number its flags by their bit of the big-endian word, 31
+/// as the top bit, and so does this.
+template <FieldRun... runs>
+class HardwareFlags : public FlagWord<runs...>
+{
+public:
+    [[nodiscard]] constexpr bool test(unsigned bit) const { return (this->word.value() >> (31 - bit) & 1U) != 0; }
+};
+
 /// Converts fields, and arrays of fields, in place.
 template <class... Fields>
 constexpr void to_host(Fields &...fields)

@@ -45,14 +45,15 @@ void set_flags(Packed<Word, runs...> &packed, std::initializer_list<unsigned> fi
     }
 }
 
-/// Bits of a plain word, 31 as the top bit.
-inline void set_flags(U32 &word, std::initializer_list<unsigned> bits)
+/// Flags of a hardware record.
+template <FieldRun... runs>
+void set_flags(HardwareFlags<runs...> &flags, std::initializer_list<unsigned> bits)
 {
-    std::uint32_t value = word.from_wire();
+    std::uint32_t value = flags.word.from_wire();
     for (const unsigned bit : bits) {
         value |= std::uint32_t{1} << bit;
     }
-    set(word, value);
+    set(flags.word, value);
 }
 
 inline void set_flags(UidbEntry &entry, std::initializer_list<UidbFlag> flags)

@@ -18,8 +18,8 @@ static_assert(sizeof(BportKey) == 12);
 
 struct BportEntry {
     Bytes<4> unread_0;
-    U32 flags; // 4
-    U32 xid;   // 8
+    HardwareFlags<one_bit(10)> flags; // 4
+    U32 xid;                          // 8
     Bytes<36> unread_12;
 };
 static_assert(sizeof(BportEntry) == 48);

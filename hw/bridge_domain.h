@@ -12,16 +12,16 @@ namespace l2fib
 struct BridgeDomainRecord {
     // Flags that decide more than their own text.
     enum Flag : unsigned {
-        pbb_enable = 2,
-        pbb_evpn_bd = 3,
-        evpn_bd = 4,
-        single_shg0_np = 11,
-        bvi = 19,
-        vni = 20,
-        p2mp_tree_enabled = 25,
+        pbb_enable = 29,
+        pbb_evpn_bd = 28,
+        evpn_bd = 27,
+        single_shg0_np = 20,
+        bvi = 12,
+        vni = 11,
+        p2mp_tree_enabled = 6,
     };
 
-    FlagWord<one_bit(29)> flags;
+    HardwareFlags<one_bit(29)> flags;
     U32 learn_key;     //   4
     U32 members;       //   8  the lower half counts
     U32 fgid[3];       //  12  forwarding groups of split-horizon groups 0, 1 and 2

@@ -6,15 +6,15 @@ namespace l2fib
 {
 
 static constexpr FlagTable member_flags{{
-    {0, "Active"},
+    {31, "Active"},
     {BridgeMemberRecord::irl_bport, "IRL Bport"},
     {BridgeMemberRecord::evpn_ole, "EVPN OLE"},
-    {3, "EVPN SHG Label"},
+    {28, "EVPN SHG Label"},
     {BridgeMemberRecord::evpn_label_hash, "EVPN Label Hash"},
-    {5, "Remote Rack SHG2"},
-    {6, "Remote Rack SHG1"},
-    {7, "Remote Rack SHG0"},
-    {8, "Local Rack Table"},
+    {26, "Remote Rack SHG2"},
+    {25, "Remote Rack SHG1"},
+    {24, "Remote Rack SHG0"},
+    {23, "Local Rack Table"},
 }};
 
 static void print_copy(Output &out, std::uint32_t level, const BridgeMemberRecord &member,

@@ -11,11 +11,11 @@ namespace l2fib
 {
 
 struct BridgeMemberRecord {
-    enum Flag : unsigned { irl_bport = 1, evpn_ole = 2, evpn_label_hash = 4 };
+    enum Flag : unsigned { irl_bport = 30, evpn_ole = 29, evpn_label_hash = 27 }; // BportEntry has others
 
     Bytes<4> unread_0;
-    FlagWord<one_bit(10)> flags; //  4
-    U32 xid;                     //  8
+    HardwareFlags<one_bit(10)> flags; //  4
+    U32 xid;                          //  8
     U32 unread_12[6];
     U32 label; // 36
     Bytes<2> unread_40;

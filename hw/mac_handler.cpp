@@ -9,17 +9,17 @@ namespace l2fib
 
 static constexpr FlagTable mac_flags{{
     {MacEntry::remote_mac, "Remote MAC"},
-    {1, "My B-SA"},
-    {2, "EVPN"},
-    {3, "Filter"},
-    {4, "Static MAC"},
-    {5, "Global XID"},
-    {6, "Learned Local"},
-    {7, "BVI"},
-    {10, "Port Level MAC Limit"},
-    {11, "MAC Security"},
-    {13, "Remote Rack"},
-    {14, "EVPN MH Dest"},
+    {30, "My B-SA"},
+    {29, "EVPN"},
+    {28, "Filter"},
+    {27, "Static MAC"},
+    {26, "Global XID"},
+    {25, "Learned Local"},
+    {24, "BVI"},
+    {21, "Port Level MAC Limit"},
+    {20, "MAC Security"},
+    {17, "Remote Rack"},
+    {16, "EVPN MH Dest"},
     {15, "EVPN SHG label"},
 }};
 

@@ -11,9 +11,9 @@ namespace l2fib
 {
 
 struct MacEntry {
-    enum Flag : unsigned { remote_mac = 0 };
+    enum Flag : unsigned { remote_mac = 31 };
 
-    FlagWord<one_bit(12), wide(2), one_bit(3)> flags;
+    HardwareFlags<one_bit(12), wide(2), one_bit(3)> flags;
     U32 xid;                     //  4
     U32 bvi_tcam_index;          //  8
     U32 bd_learn_key;            // 12

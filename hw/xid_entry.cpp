@@ -78,9 +78,9 @@ static void print_ac_lines(Output &out, std::uint32_t level, const XidEntry &ent
     ports.item("DVP Index: 0x%x ", entry.virtual_port);
 
     List translation{out, level};
-    translation.item("Ing Xlate: %d ", is_set(entry.translation, XidEntry::ingress_translation));
-    translation.item("Egr Xlate: %d ", is_set(entry.translation, XidEntry::egress_translation));
-    translation.item("Is_remote_pw: %d ", is_set(entry.translation, XidEntry::remote_pw));
+    translation.item("Ing Xlate: %d ", entry.translation.test(XidEntry::ingress_translation));
+    translation.item("Egr Xlate: %d ", entry.translation.test(XidEntry::egress_translation));
+    translation.item("Is_remote_pw: %d ", entry.translation.test(XidEntry::remote_pw));
 }
 
 static void print_bundle_line(Output &out, std::uint32_t level, const XidEntry &entry)
@@ -88,7 +88,7 @@ static void print_bundle_line(Output &out, std::uint32_t level, const XidEntry &
     List line{out, level};
     line.item("uIDB Index: 0x%04x", entry.uidb_index);
     line.item("LAG ID: %d", entry.lag_id);
-    if (is_set(entry.flags, XidEntry::load_balance_flow_based)) {
+    if (entry.flags.test(XidEntry::load_balance_flow_based)) {
         line.item("EFP egress hash: %s", "Flow Based");
     } else {
         line.item("EFP egress hash: %s, value = %d", "XID value based", entry.efp_egress_hash + 1);
@@ -155,12 +155,11 @@ std::uint32_t zel_l2fib_print_xid_entry(Output &out, std::uint32_t level, std::u
     } else if (is_pw) {
         print_pw_lines(out, body, *entry);
     }
-    if (is_set(entry->flags, XidEntry::vpls)) {
+    if (entry->flags.test(XidEntry::vpls)) {
         print_vpls_line(out, body, *entry);
     }
-    if (is_set(entry->flags, XidEntry::broadcast_storm_control) ||
-        is_set(entry->flags, XidEntry::multicast_storm_control) ||
-        is_set(entry->flags, XidEntry::unknown_unicast_storm_control)) {
+    if (entry->flags.test(XidEntry::broadcast_storm_control) || entry->flags.test(XidEntry::multicast_storm_control) ||
+        entry->flags.test(XidEntry::unknown_unicast_storm_control)) {
         print_storm_control_line(out, body, *entry);
     }
     List shg{out, body};

@@ -24,10 +24,10 @@ struct XidEntry {
     enum Translation : unsigned { ingress_translation = 31, egress_translation = 30, remote_pw = 29 };
 
     U32 vpn_id;
-    U32 virtual_port;   //   4  index, as source and as destination alike
-    U32 next_hop_index; //   8  the software's
-    U32 translation;    //  12
-    U32 flags;          //  16
+    U32 virtual_port;                                       //   4  index, as source and as destination alike
+    U32 next_hop_index;                                     //   8  the software's
+    HardwareFlags<one_bit(3), wide(5)> translation;         //  12
+    HardwareFlags<one_bit(18), wide(2), one_bit(12)> flags; //  16
     Bytes<4> unread_20;
     U32 type;                //  24
     U32 remote_type;         //  28  0: none

@@ -46,7 +46,7 @@ TEST(XidEntry, EveryFlagOfAPseudowireWithoutControlWord)
 {
     XidEntry entry{};
     set(entry.type, XidEntry::type_pw);
-    set(entry.flags, 0xffffffff);
+    set(entry.flags.word, 0xffffffff);
     const std::string text = xid_text(entry);
     EXPECT_EQ(text.substr(0, text.find("\n  \n")), R"(
 Xconnect ID: 0x00000012
@@ -111,7 +111,7 @@ TEST(BportEntry, FlagsAndMissingEntry)
     Bport bport{};
     set(bport.key.bridge_id, 5);
     set(bport.key.port_id, -3);
-    set(bport.entry.flags, 0x41000000);
+    set(bport.entry.flags.word, 0x41000000);
     set(bport.entry.xid, 0xbeef);
     EXPECT_EQ(printed([&] {
                   Output out;
