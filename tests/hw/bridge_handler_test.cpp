@@ -1,0 +1,233 @@
+// What a bridge's flags and counts bring on the screen, and what is said when the show data ends early.
+#include "examples/captures.h"
+#include "examples/show_data_builder.h"
+#include "hw/bridge_domain.h"
+#include "hw/bridge_handler.h"
+#include "hw/bridge_member.h"
+#include "hw/storm_control.h"
+#include "rp/bridge_context.h"
+#include "tests/support/memory.h"
+#include "tests/support/printed.h"
+
+#include <gtest/gtest.h>
+
+namespace l2fib
+{
+
+class BridgeHandler : public testing::Test
+{
+protected:
+    BridgeHandler() { set(bridge.np_count, 1); }
+
+    /// The show data of a bridge with one NP and no feature blocks, in the order of its layout.
+    [[nodiscard]] std::vector<std::uint8_t> bytes() const
+    {
+        ShowDataBuilder builder;
+        builder.add(bridge).add(hal_np).add(counts).add(domain);
+        for (const BridgeMemberRecord &member : members) {
+            builder.add(member).add(member);
+        }
+        return builder.bytes();
+    }
+
+    static Shown show(std::uint32_t direction, const std::vector<std::uint8_t> &bytes)
+    {
+        const GuardedBytes data(bytes);
+        return shown([&] {
+            return zel_l2fib_trident_print_internal_detail(0, L2FIB_OBJTYPE_BRIDGE, 1, direction, 1, data.data(),
+                                                           data.size());
+        });
+    }
+
+    /// The screen behind the heading of the hardware's part.
+    [[nodiscard]] std::string domain_lines() const
+    {
+        const std::string text = show(2, bytes()).text;
+        const std::string heading = "Hardware Information:";
+        return text.substr(text.find(heading) + heading.size());
+    }
+
+    BridgeShowData bridge{}; // converted, but for its NP count
+    BridgeHalNpEntry hal_np{};
+    BridgeMemberCounts counts{};
+    BridgeDomainRecord domain{};
+    std::vector<BridgeMemberRecord> members;
+};
+
+TEST_F(BridgeHandler, EmptyDomain)
+{
+    EXPECT_EQ(show(1, bytes()), Shown{R"(
+
+
+Platform Bridge HAL context:
+  Flags: None
+  Number of NPs: 1, learn key: 0, vni_id: 0
+  
+  Platform Bridge Domain Hardware Information:
+    Bridge Domain: 0 NP 0
+      Flags: None
+      Num Members: 0, Learn Key: 0x00, Half Age: 0
+      fgid shg0: 0x000000, fgid shg1: 0x000000, fgid shg2: 0x000000, mgid index: 0
+      BD learn cntr: 0x00000000
+    )"});
+}
+
+TEST_F(BridgeHandler, EveryFlagOfADomain)
+{
+    set(domain.flags.word, 0xffffffff);
+    set(domain.members, 0x00120003);
+    set(domain.isid, 0x123456ff);
+    set(domain.vni_id, 0x00000a00);
+    set(domain.head_end_ptree_internal_label, 77);
+    EXPECT_EQ(domain_lines(), R"(
+    Bridge Domain: 0 NP 0
+      Flags: Virtual Table, PBB Core, PBB Enable, PBB EVPN BD, EVPN BD, IGMP Snoop Enable,
+             MLD Snoop Enable, Multicast Flooding, CorePW Present, Learn Enable,
+             No members this LC, Single SHG0 NP, SHG2 Only, PBB Core to Edge Enable,
+             PBB Edge to Core Enable, No Learn, Learn Drop, PBB ISID Flood,
+             MMRP Enabled, BVI, VNI, Rmt Rack SHG2, Rmt Rack SHG1, Rmt Rack SHG0,
+             P2MP Tree Enabled, PBB VPLS and eVPN, PW over BVI, EVPN Flow Label
+      Head-end P-Tree Int Label: 77 
+      Num Members: 1, Learn Key: 0x00, Half Age: 0
+      fgid shg0: 0x000000, fgid shg1: 0x000000, fgid shg2: 0x000000, mgid index: 0
+      single_shg0_xid: 0x00000000
+      PBB Core BD: 0, ISID: 1193046, BD learn cntr: 0x00000000, EVPN cntr: 0x000000,
+      vnid: 10, BVI TCAM index: 0x000000
+    )");
+}
+
+TEST_F(BridgeHandler, Members)
+{
+    set_as_stored(hal_np.shg_members[0], 1);
+    set_as_stored(hal_np.shg_members[2], 3);
+    set_as_stored(hal_np.irl_shg0_bound_members, 9);
+    set(counts.members, 3); // one fewer than the NP has
+    members.resize(4);
+    set(members[0].xid, 0xab);
+    set_flags(members[1].flags, {BridgeMemberRecord::irl_bport, 22});
+    set(members[2].flags.word, 0xff800000);
+    set(members[2].ldi, 0xffff);
+    const std::string text = domain_lines();
+    EXPECT_EQ(text.substr(text.find("\n      Bridge Member")), R"(
+      Bridge Member 0, copy 0 
+        Flags: NoneXID: 0x000000ab
+      Bridge Member 0, copy 1 
+        Flags: NoneXID: 0x000000ab
+      Bridge Member 1, copy 0 
+        Flags: IRL Bport, IRL shg0 bound members: 9
+      Bridge Member 1, copy 1 
+        Flags: IRL Bport, IRL shg0 bound members: 9
+      Bridge Member 2, copy 0 
+        Flags: Active, IRL Bport, EVPN OLE, EVPN SHG Label, EVPN Label Hash,
+               Remote Rack SHG2, Remote Rack SHG1, Remote Rack SHG0, Local Rack Table,
+      Label: 0, LDI: 65535, LAG Hash: 0x 0, nrLDI Hash: 0x 0, rLDI Hash: 0x 0
+      Bridge Member 2, copy 1 
+        Flags: Active, IRL Bport, EVPN OLE, EVPN SHG Label, EVPN Label Hash,
+               Remote Rack SHG2, Remote Rack SHG1, Remote Rack SHG0, Local Rack Table,
+      Label: 0, LDI: 65535, LAG Hash: 0x 0, nrLDI Hash: 0x 0, rLDI Hash: 0x 0
+    )");
+}
+
+TEST_F(BridgeHandler, PwOverBviMembersByBothCounts)
+{
+    const struct {
+        std::uint16_t in_block;
+        std::uint16_t of_np_0;
+        unsigned printed;
+    } cases[] = {{0, 2, 0}, {2, 0, 0}, {1, 2, 1}, {2, 1, 1}, {2, 2, 2}};
+    set_flags(bridge.context.flags, {BridgeContext::next_hop_has_bvi});
+    bridge.context.flags.to_host();
+    for (const auto &c : cases) {
+        BridgeFeatureBlock1Np np{};
+        set(np.pw_over_bvi_members[2], c.of_np_0);
+        set(counts.pw_over_bvi_members, c.in_block);
+        ShowDataBuilder builder;
+        builder.add(bridge).add(hal_np).add(BridgeFeatureBlock1{}).add(np).add(counts).add(domain);
+        builder.add_zeros(std::size_t{c.printed} * 2 * sizeof(BridgeMemberRecord));
+        const Shown result = show(2, builder.bytes());
+        EXPECT_EQ(result.status, 0U);
+        EXPECT_NE(result.text.find("\n    NHOP has BVI\n    PW BVI count: shg0: 0, shg1: 0, shg2: 0"),
+                  std::string::npos);
+        unsigned printed = 0;
+        for (std::size_t at = 0; (at = result.text.find("copy 1", at)) != std::string::npos; ++at) {
+            ++printed;
+        }
+        EXPECT_EQ(printed, c.printed);
+    }
+}
+
+TEST_F(BridgeHandler, NumbersOfNps)
+{
+    const struct {
+        std::uint16_t np_count;
+        const char *text;
+    } cases[] = {{9, "Error: Number of NPs (9) returned more than supported(8)"},
+                 {0x0103, "Error: Number of NPs (259) returned more than supported(8)"},
+                 {0, "Error: Number of NPs (0) returned is invalid"}};
+    for (const auto &c : cases) {
+        set(bridge.np_count, c.np_count);
+        EXPECT_EQ(show(1, bytes()), Shown{std::string("\n") + c.text});
+        std::vector<std::uint8_t> data = bytes();
+        EXPECT_EQ(shown([&] {
+                      Output out;
+                      return zel_l2fib_brg_print_handler(out, 0, 1, {data.data(), data.size()});
+                  }),
+                  Shown{std::string("\n  ") + c.text + (c.np_count > 8 ? ". Bridge." : "")});
+    }
+}
+
+constexpr const char *failure =
+    "\n  zel_l2fib_trident_print_internal_detail: print handler failed for objtype 11 : status ";
+
+TEST_F(BridgeHandler, ShowDataThatEndsEarly)
+{
+    bridge.context.flags.word.bytes = {0, 0x02, 0, 0};             // PBB statistics: feature block 1
+    bridge.context.features.features.word.bytes = {0, 0, 0x20, 0}; // broadcast storm control: feature block 2
+    set_as_stored(hal_np.shg_members[0], 1);
+    set(counts.members, 1);
+    ShowDataBuilder builder;
+    builder.add(bridge).add(hal_np).add(BridgeFeatureBlock1{}).add(BridgeFeatureBlock1Np{}).add(counts);
+    builder.add(StormControlState{}).add(StormControlProfile{}).add(domain).add_zeros(2 * sizeof(BridgeMemberRecord));
+    const std::vector<std::uint8_t> whole = builder.bytes();
+    EXPECT_EQ(show(1, whole).status, 0U);
+
+    // Where each piece ends, and the indentation of its report.
+    std::size_t size = 0;
+    for (const auto &[end, blanks] : std::initializer_list<std::pair<std::size_t, int>>{
+             {930, 0}, {950, 0}, {1146, 2}, {1150, 2}, {1466, 2}, {1610, 2}, {1706, 2}}) {
+        for (; size < end; ++size) {
+            const Shown result = show(1, {whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)});
+            const std::string report = "\n" + std::string(static_cast<std::size_t>(blanks), ' ') + "data_size is " +
+                                       std::to_string(size) + ", expecting at least " + std::to_string(end) + failure +
+                                       "0x46258800\n";
+            ASSERT_EQ(result.status, L2FIB_SHOW_ERR_DATA);
+            ASSERT_EQ(result.text.substr(result.text.find("\ndata_size") == 0 ? 0 : result.text.size() - report.size()),
+                      report)
+                << size;
+        }
+    }
+    EXPECT_EQ(size, whole.size());
+    EXPECT_EQ(show(1, {}).text.find("\n  zel_l2fib_brg_print_handler"), std::string::npos);
+    EXPECT_EQ(shown([] { return zel_l2fib_trident_print_internal_detail(0, 11, 1, 1, 1, nullptr, 0); }),
+              (Shown{std::string("\n  zel_l2fib_brg_print_handler: Null arguments rcvd") + failure + "0x46258e00\n",
+                     L2FIB_SHOW_ERR_ARGS}));
+}
+
+TEST_F(BridgeHandler, MemoryRunsOut)
+{
+    const std::vector<std::uint8_t> sample = make_bridge_ingress();
+    const auto show_sample = [&] {
+        const GuardedBytes data(sample);
+        return shown([&] { return zel_l2fib_print_internal(11, 0, L2FIB_INGRESS, 1, data.data(), data.size()); });
+    };
+    const std::string whole = show_sample().text;
+    const FailingAllocation failing(1);
+    const Shown result = show_sample();
+    EXPECT_EQ(failing.not_released(), 0);
+    EXPECT_EQ(result.status, L2FIB_SHOW_ERR_NOMEM);
+    const std::string report = "\n      zel_l2fib_trident_print_internal_detail: print handler failed for objtype 11 : "
+                               "status 0xc6258200\n\n";
+    EXPECT_EQ(result.text, whole.substr(0, whole.find("\n          Storm Control Configuration")) + report);
+}
+
+} // namespace l2fib
