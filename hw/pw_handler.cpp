@@ -135,11 +135,10 @@ std::uint32_t zel_l2fib_pw_print_handler(Output &out, std::uint32_t level, std::
     if (context == nullptr) {
         return L2FIB_SHOW_ERR_DATA;
     }
-    switch (context->service) {
-    case service_mtun: return print_point_to_point(out, level, data, __func__);
-    case service_vpls: return print_vpls(out, level, direction, data, __func__);
-    default: return L2FIB_SHOW_ERR_DATA;
+    if (context->service == service_mtun) {
+        return print_point_to_point(out, level, data, __func__);
     }
+    return context->service == service_vpls ? print_vpls(out, level, direction, data, __func__) : L2FIB_SHOW_ERR_DATA;
 }
 
 } // namespace l2fib

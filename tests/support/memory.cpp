@@ -5,7 +5,8 @@
 static int allocations_until_failure = 0; // 0: none fails
 static int live_allocations = 0;
 
-// NOLINTBEGIN(bugprone-reserved-identifier): the names that the linker gives wrapped functions
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming): the names that the linker gives wrapped
+// functions
 extern "C" {
 void *__real_malloc(size_t size);
 void *__real_calloc(size_t count, size_t size);
@@ -37,7 +38,7 @@ void __wrap_free(void *memory)
     __real_free(memory);
 }
 }
-// NOLINTEND(bugprone-reserved-identifier)
+// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
 
 namespace l2fib
 {
