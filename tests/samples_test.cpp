@@ -27,11 +27,7 @@ class Samples : public testing::TestWithParam<SampleCapture>
 protected:
     [[nodiscard]] static Shown show(const std::vector<std::uint8_t> &bytes)
     {
-        const GuardedBytes data(bytes);
-        return shown([&] {
-            return zel_l2fib_print_internal(GetParam().objtype, 0, GetParam().direction, L2FIB_VIEW_DETAIL, data.data(),
-                                            data.size());
-        });
+        return shown_detail(GetParam().objtype, GetParam().direction, bytes);
     }
 };
 

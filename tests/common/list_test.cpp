@@ -11,56 +11,35 @@ static std::string x(int count)
     return std::string(static_cast<std::size_t>(count), 'x');
 }
 
-TEST(List, AnItemMayBeginUpToColumn70)
+TEST(List, Wrapping)
 {
+    const std::string blanks(72, ' ');
     const struct {
-        int first_item; // behind two blanks
-        const char *separator;
-    } cases[] = {{67, ", "}, {68, ", "}, {69, ",\n  "}};
+        std::uint32_t level;
+        const char *label;
+        std::string before; // text in front of the items
+        std::vector<std::string> items;
+        std::string printed;
+    } cases[] = {
+        {1, nullptr, "", {x(68), "next"}, "\n  " + x(68) + ", next"},    // up to column 70
+        {1, nullptr, "", {x(69), "next"}, "\n  " + x(69) + ",\n  next"}, // from 71 on
+        {2, "Flags", "", {x(60), "2", "3"}, "\n    Flags: " + x(60) + ",\n           2, 3"},
+        {36, nullptr, "", {"first"}, "\n" + blanks + ",\n" + blanks + "first"},
+        {0, nullptr, "word ", {"first", "2"}, "\nword first, 2"},
+        {0, nullptr, x(71), {"first"}, "\n" + x(71) + ",\nfirst"},
+    };
     for (const auto &c : cases) {
         EXPECT_EQ(printed([&] {
                       Output out;
-                      List line{out, 1};
-                      line.item("%s", x(c.first_item).c_str());
-                      line.item("next");
+                      List line = c.label != nullptr ? List{out, c.level, c.label} : List{out, c.level};
+                      line.text("%s", c.before.c_str());
+                      for (const std::string &item : c.items) {
+                          line.item("%s", item.c_str());
+                          line.item_if(false, "never");
+                      }
                   }),
-                  "\n  " + x(c.first_item) + c.separator + "next");
+                  c.printed);
     }
-}
-
-TEST(List, LabelledListContinuesUnderItsFirstItem)
-{
-    EXPECT_EQ(printed([] {
-                  Output out;
-                  List line{out, 2, "Flags"};
-                  line.item("%s", x(60).c_str());
-                  line.item("second");
-                  line.item_if(false, "never");
-                  line.item("third");
-              }),
-              "\n    Flags: " + x(60) + ",\n           second, third");
-}
-
-TEST(List, LineThatIsFullBeforeItsFirstItemWraps)
-{
-    const std::string blanks(72, ' ');
-    EXPECT_EQ(printed([] {
-                  Output out;
-                  List line{out, 36};
-                  line.item("first");
-              }),
-              "\n" + blanks + ",\n" + blanks + "first");
-}
-
-TEST(List, TextTakesRoomButIsNoItem)
-{
-    EXPECT_EQ(printed([] {
-                  Output out;
-                  List line{out, 0};
-                  line.text("%s ", x(70).c_str());
-                  line.item("item");
-              }),
-              "\n" + x(70) + " ,\nitem");
 }
 
 TEST(List, Flags)

@@ -1,13 +1,15 @@
 // Which ACs and which of their NPs are shown, and what is said when the hardware's part does not hold them.
-#include "examples/captures.h"
 #include "examples/show_data_builder.h"
 #include "hw/ac_handler.h"
 #include "hw/vpls_ac.h"
 #include "rp/names.h"
 #include "tests/support/printed.h"
 #include "tests/support/test_platform.h"
+#include "zel_l2fib/show.h"
 
 #include <gtest/gtest.h>
+#include <regex>
+#include <sstream>
 
 namespace l2fib
 {
@@ -34,11 +36,7 @@ protected:
         builder.add(ac).add_zeros(np_entry_size * static_cast<std::uint8_t>(ac.np_count.from_wire()));
         std::vector<std::uint8_t> bytes = builder.bytes();
         bytes.insert(bytes.end(), hardware.bytes().begin(), hardware.bytes().end());
-        const GuardedBytes data(bytes);
-        return shown([&] {
-            return zel_l2fib_trident_print_internal_detail(1, L2FIB_OBJTYPE_AC, 1, direction, 1, data.data(),
-                                                           data.size());
-        });
+        return shown_hardware(1, L2FIB_OBJTYPE_AC, direction, bytes);
     }
 
     AcShowData ac{};
@@ -50,43 +48,41 @@ static std::string failure(const char *service, const char *status)
            " objtype 2 : status " + status;
 }
 
-template <class Block, class Record>
-static ShowDataBuilder vpls(std::uint32_t np_count, unsigned records, std::size_t trailer)
+static ShowDataBuilder egress(std::uint32_t np_count, unsigned records, const VplsNpRecord &record = {})
 {
-    Block block{};
+    VplsEgressBlock block{};
     set(block.np_count, np_count);
     ShowDataBuilder builder;
     builder.add(block);
     for (unsigned i = 0; i < records; ++i) {
-        builder.add(Record{});
+        builder.add(record);
     }
-    return builder.add_zeros(trailer);
+    return builder;
 }
 
-static ShowDataBuilder egress(std::uint32_t np_count, unsigned records)
+static ShowDataBuilder ingress(std::uint32_t np_count, unsigned records, VplsIngressBlock block = {},
+                               const VplsIngressNpRecord &record = {})
 {
-    return vpls<VplsEgressBlock, VplsNpRecord>(np_count, records, 0);
+    set(block.np_count, np_count);
+    ShowDataBuilder builder;
+    builder.add(block);
+    for (unsigned i = 0; i < records; ++i) {
+        builder.add(record);
+    }
+    return builder.add(VplsIngressTrailer{});
 }
 
-static ShowDataBuilder ingress(std::uint32_t np_count, unsigned records)
-{
-    return vpls<VplsIngressBlock, VplsIngressNpRecord>(np_count, records, sizeof(VplsIngressTrailer));
-}
-
-/// The lines that begin with "NP" behind any indentation, and those that reject an NP.
+/// The lines that name an NP or reject it.
 static std::string np_lines(const std::string &text)
 {
-    std::string lines;
-    for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t end = std::min(text.find('\n', begin), text.size());
-        const std::string line = text.substr(begin, end - begin);
-        const std::size_t first = std::min(line.find_first_not_of(' '), line.size());
-        if (line.compare(first, 2, "NP") == 0 || line.compare(first, 7, "Invalid") == 0) {
-            lines += line + "\n";
+    std::istringstream lines(text);
+    std::string found;
+    for (std::string line; std::getline(lines, line);) {
+        if (std::regex_match(line, std::regex(" *(NP[0-9]+|Invalid NP ID)"))) {
+            found += line + "\n";
         }
-        begin = end + 1;
     }
-    return lines;
+    return found;
 }
 
 TEST_F(AcHandler, StatesThatAreInHardware)
@@ -148,17 +144,13 @@ TEST_F(AcHandler, StormControlKnowsEightNps)
 {
     set_as_stored(ac.context.requested_np, 8);
     VplsIngressBlock block{};
-    set(block.np_count, 1);
     set_flags(block.port.features.features, {FeatureFlags::storm_control_multicast});
-    ShowDataBuilder builder;
-    builder.add(block).add(VplsIngressNpRecord{}).add(VplsIngressTrailer{});
-    EXPECT_EQ(np_lines(show(1, builder).text), "  NP8\n    Invalid NP ID\n");
+    EXPECT_EQ(np_lines(show(1, ingress(1, 1, block)).text), "  NP8\n    Invalid NP ID\n");
 }
 
 TEST_F(AcHandler, StormControlConfiguration)
 {
     VplsIngressBlock block{};
-    set(block.np_count, 1);
     set_flags(block.port.features.features, {FeatureFlags::storm_control_multicast});
     set(block.port.multicast_rate, 500);
     set_as_stored(block.port.storm_control_unit, 0xff);
@@ -172,9 +164,7 @@ TEST_F(AcHandler, StormControlConfiguration)
     set(record.storm_control.rate[1], -500);
     set(record.storm_control.profile_id[1], 0xffff);
 
-    ShowDataBuilder builder;
-    builder.add(block).add(record).add(VplsIngressTrailer{});
-    const std::string text = show(1, builder).text;
+    const std::string text = show(1, ingress(1, 1, block, record)).text;
     const std::string expected = R"(
     Storm Control Configuration: Broadcast: Disabled, Multicast: 500 kbps, Unknown Unicast: Disabled
      Traffic Type  |   Status    |kbps    |Profile Index|Token Bucket ID|Profile ID|NP
@@ -197,7 +187,7 @@ TEST_F(AcHandler, VplsBlocksThatEndEarly)
         {1, three_bytes, "3, expecting at least 4"},
         {2, three_bytes, "3, expecting at least 4"},
         {2, egress(2, 1), "436, expecting at least 868"},
-        {1, vpls<VplsIngressBlock, VplsIngressNpRecord>(1, 1, 3), "3051, expecting at least 3052"},
+        {1, ingress(1, 0), "2600, expecting at least 3052"},
     };
     for (const auto &c : cases) {
         EXPECT_EQ(show(c.direction, c.hardware),
@@ -214,20 +204,16 @@ TEST_F(AcHandler, VplsBlocksThatEndEarly)
 TEST_F(AcHandler, BridgePortsArePresentByDifferentBits)
 {
     VplsNpRecord record{};
-    record.bports_present.bytes = {0x02, 0, 0, 0x01};
-    const auto bports = [&](std::uint32_t direction) {
-        VplsIngressBlock block{};
-        set(block.np_count, 1);
-        ShowDataBuilder in;
-        in.add(block).add(VplsIngressNpRecord{record, {}}).add(VplsIngressTrailer{});
-        ShowDataBuilder out = egress(1, 0);
-        out.add(record);
-        return show(direction, direction == 1 ? in : out).text.find("Bridge Port") != std::string::npos;
+    const auto has_bports = [&](std::uint32_t direction) {
+        return occurrences(
+                   show(direction, direction == 1 ? ingress(1, 1, {}, {record, {}}) : egress(1, 1, record)).text,
+                   "Bridge Port") == 2;
     };
-    EXPECT_TRUE(bports(1));  // any bit of the word
-    EXPECT_FALSE(bports(2)); // the lowest bit of the first byte
+    record.bports_present.bytes = {0x02, 0, 0, 0x01};
+    EXPECT_TRUE(has_bports(1));  // any bit of the word
+    EXPECT_FALSE(has_bports(2)); // the lowest bit of the first byte
     record.bports_present.bytes = {0x01, 0, 0, 0};
-    EXPECT_TRUE(bports(2));
+    EXPECT_TRUE(has_bports(2));
 }
 
 class PlainAc : public AcHandler
@@ -285,11 +271,7 @@ TEST_F(PlainAc, NpsAndTheEntriesThatThereAre)
             set_as_stored(ac.context.requested_np, c.requested);
             set(ac.np_count, c.np_count);
             const Shown result = show(direction, entries(c.entries));
-            unsigned printed = 0;
-            for (std::size_t at = 0; (at = result.text.find("Xconnect ID", at)) != std::string::npos; ++at) {
-                ++printed;
-            }
-            EXPECT_EQ(printed, c.printed);
+            EXPECT_EQ(occurrences(result.text, "Xconnect ID"), c.printed);
             EXPECT_EQ(result.status, c.complete ? 0 : L2FIB_SHOW_ERR_DATA);
         }
     }
@@ -301,22 +283,14 @@ TEST_F(PlainAc, Failures)
 
     std::vector<std::uint8_t> bytes(10);
     bytes[6] = service_vpls;
-    const struct {
-        std::uint8_t *show_data;
-        std::uint64_t size;
-        Shown expected;
-    } cases[] = {
-        {nullptr,
-         0,
-         {"\n  \n  zel_l2fib_ac_print_handler: Null arguments rcvd" + failure("Invalid", "0x46258e00"),
-          L2FIB_SHOW_ERR_ARGS}},
-        {bytes.data(), 9, {"\n  " + failure("Invalid", "0x46258800"), L2FIB_SHOW_ERR_DATA}},
-        {bytes.data(), 10, {"\n  " + failure("VPLS", "0x46258800"), L2FIB_SHOW_ERR_DATA}},
-    };
-    for (const auto &c : cases) {
-        EXPECT_EQ(shown([&] { return zel_l2fib_trident_print_internal_detail(1, 2, 1, 1, 1, c.show_data, c.size); }),
-                  c.expected);
-    }
+    EXPECT_EQ(shown_hardware(1, L2FIB_OBJTYPE_AC, 1, bytes),
+              (Shown{"\n  " + failure("VPLS", "0x46258800"), L2FIB_SHOW_ERR_DATA}));
+    bytes.pop_back();
+    EXPECT_EQ(shown_hardware(1, L2FIB_OBJTYPE_AC, 1, bytes),
+              (Shown{"\n  " + failure("Invalid", "0x46258800"), L2FIB_SHOW_ERR_DATA}));
+    EXPECT_EQ(shown([] { return zel_l2fib_trident_print_internal_detail(1, L2FIB_OBJTYPE_AC, 1, 1, 1, nullptr, 9); }),
+              (Shown{"\n  \n  zel_l2fib_ac_print_handler: Null arguments rcvd" + failure("Invalid", "0x46258e00"),
+                     L2FIB_SHOW_ERR_ARGS}));
 }
 
 } // namespace l2fib

@@ -32,11 +32,7 @@ protected:
 
     static Shown show(std::uint32_t direction, const std::vector<std::uint8_t> &bytes)
     {
-        const GuardedBytes data(bytes);
-        return shown([&] {
-            return zel_l2fib_trident_print_internal_detail(0, L2FIB_OBJTYPE_BRIDGE, 1, direction, 1, data.data(),
-                                                           data.size());
-        });
+        return shown_hardware(0, L2FIB_OBJTYPE_BRIDGE, direction, bytes);
     }
 
     /// The screen behind the heading of the hardware's part.
@@ -148,11 +144,7 @@ TEST_F(BridgeHandler, PwOverBviMembersByBothCounts)
         EXPECT_EQ(result.status, 0U);
         EXPECT_NE(result.text.find("\n    NHOP has BVI\n    PW BVI count: shg0: 0, shg1: 0, shg2: 0"),
                   std::string::npos);
-        unsigned printed = 0;
-        for (std::size_t at = 0; (at = result.text.find("copy 1", at)) != std::string::npos; ++at) {
-            ++printed;
-        }
-        EXPECT_EQ(printed, c.printed);
+        EXPECT_EQ(occurrences(result.text, "copy 1"), c.printed);
     }
 }
 
@@ -207,7 +199,6 @@ TEST_F(BridgeHandler, ShowDataThatEndsEarly)
         }
     }
     EXPECT_EQ(size, whole.size());
-    EXPECT_EQ(show(1, {}).text.find("\n  zel_l2fib_brg_print_handler"), std::string::npos);
     EXPECT_EQ(shown([] { return zel_l2fib_trident_print_internal_detail(0, 11, 1, 1, 1, nullptr, 0); }),
               (Shown{std::string("\n  zel_l2fib_brg_print_handler: Null arguments rcvd") + failure + "0x46258e00\n",
                      L2FIB_SHOW_ERR_ARGS}));
@@ -216,13 +207,9 @@ TEST_F(BridgeHandler, ShowDataThatEndsEarly)
 TEST_F(BridgeHandler, MemoryRunsOut)
 {
     const std::vector<std::uint8_t> sample = make_bridge_ingress();
-    const auto show_sample = [&] {
-        const GuardedBytes data(sample);
-        return shown([&] { return zel_l2fib_print_internal(11, 0, L2FIB_INGRESS, 1, data.data(), data.size()); });
-    };
-    const std::string whole = show_sample().text;
+    const std::string whole = shown_detail(L2FIB_OBJTYPE_BRIDGE, L2FIB_INGRESS, sample).text;
     const FailingAllocation failing(1);
-    const Shown result = show_sample();
+    const Shown result = shown_detail(L2FIB_OBJTYPE_BRIDGE, L2FIB_INGRESS, sample);
     EXPECT_EQ(failing.not_released(), 0);
     EXPECT_EQ(result.status, L2FIB_SHOW_ERR_NOMEM);
     const std::string report = "\n      zel_l2fib_trident_print_internal_detail: print handler failed for objtype 11 : "

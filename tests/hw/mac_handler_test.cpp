@@ -10,8 +10,7 @@ namespace l2fib
 
 static Shown show(const std::vector<std::uint8_t> &bytes)
 {
-    const GuardedBytes data(bytes);
-    return shown([&] { return zel_l2fib_trident_print_internal_detail(1, 14, 1, 1, 1, data.data(), data.size()); });
+    return shown_hardware(1, L2FIB_OBJTYPE_BRIDGE_MAC, 1, bytes);
 }
 
 TEST(MacHandler, FlagsThatAreShown)

@@ -30,16 +30,7 @@ protected:
     {
         std::vector<std::uint8_t> bytes = ShowDataBuilder{}.add(pw).bytes();
         bytes.insert(bytes.end(), hardware.begin(), hardware.end());
-        return show_bytes(direction, bytes);
-    }
-
-    [[nodiscard]] static Shown show_bytes(std::uint32_t direction, const std::vector<std::uint8_t> &bytes)
-    {
-        const GuardedBytes data(bytes);
-        return shown([&] {
-            return zel_l2fib_trident_print_internal_detail(1, L2FIB_OBJTYPE_MPLS, 1, direction, 1, data.data(),
-                                                           data.size());
-        });
+        return shown_hardware(1, L2FIB_OBJTYPE_MPLS, direction, bytes);
     }
 
     /// The ingress part of a VPLS PW with one NP.
@@ -149,8 +140,8 @@ TEST_F(PwHandler, GatesAndFailures)
     std::vector<std::uint8_t> context = ShowDataBuilder{}.add(pw.context).bytes();
     const std::string data_failure = std::string(failure) + "0x46258800";
     const Shown failed{data_failure, L2FIB_SHOW_ERR_DATA};
-    EXPECT_EQ(show_bytes(1, {context.begin(), context.end() - 1}), failed);
-    EXPECT_EQ(show_bytes(1, context),
+    EXPECT_EQ(shown_hardware(1, L2FIB_OBJTYPE_MPLS, 1, {context.begin(), context.end() - 1}), failed);
+    EXPECT_EQ(shown_hardware(1, L2FIB_OBJTYPE_MPLS, 1, context),
               (Shown{std::string(layer_line) + "\n  data_size is 304, expecting at least 308" + data_failure,
                      L2FIB_SHOW_ERR_DATA}));
     EXPECT_EQ(show(2, std::vector<std::uint8_t>(187)),

@@ -1,5 +1,7 @@
 #include "tests/support/printed.h"
 
+#include "zel_l2fib/show.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <ostream>
@@ -50,6 +52,32 @@ std::ostream &operator<<(std::ostream &out, const Shown &shown)
 {
     out << shown.text;
     return shown.status == 0 ? out : out << "\n[status 0x" << std::hex << shown.status << std::dec << ']';
+}
+
+Shown shown_hardware(std::uint32_t level, std::uint32_t objtype, std::uint32_t direction,
+                     const std::vector<std::uint8_t> &bytes)
+{
+    const GuardedBytes data(bytes);
+    return shown([&] {
+        return zel_l2fib_trident_print_internal_detail(level, objtype, 1, direction, L2FIB_VIEW_DETAIL, data.data(),
+                                                       data.size());
+    });
+}
+
+Shown shown_detail(std::uint32_t objtype, std::uint32_t direction, const std::vector<std::uint8_t> &bytes)
+{
+    const GuardedBytes data(bytes);
+    return shown(
+        [&] { return zel_l2fib_print_internal(objtype, 0, direction, L2FIB_VIEW_DETAIL, data.data(), data.size()); });
+}
+
+unsigned occurrences(const std::string &text, const std::string &what)
+{
+    unsigned count = 0;
+    for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + 1)) {
+        ++count;
+    }
+    return count;
 }
 
 } // namespace l2fib

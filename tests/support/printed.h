@@ -31,7 +31,7 @@ private:
     std::uint64_t size_;
 };
 
-/// What came of showing an object: the text, and the status on a line of its own unless it is 0.
+/// What came of showing an object.
 struct Shown {
     std::string text;
     std::uint32_t status = 0;
@@ -47,5 +47,15 @@ Shown shown(const Call &call)
     result.text = printed([&] { result.status = call(); });
     return result;
 }
+
+/// The hardware's detail view of an object, with a read behind its bytes ending the test.
+Shown shown_hardware(std::uint32_t level, std::uint32_t objtype, std::uint32_t direction,
+                     const std::vector<std::uint8_t> &bytes);
+
+/// The same for the whole detail view.
+Shown shown_detail(std::uint32_t objtype, std::uint32_t direction, const std::vector<std::uint8_t> &bytes);
+
+/// How often a text contains another.
+unsigned occurrences(const std::string &text, const std::string &what);
 
 } // namespace l2fib
