@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <exception>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace l2fib
@@ -39,7 +40,7 @@ static const std::map<std::string, std::uint32_t> views = {
 struct Arguments {
     std::uint32_t objtype = L2FIB_OBJTYPE_NONE;
     std::uint32_t node = 0;
-    std::uint32_t card = 0x1e1000;
+    std::optional<std::uint32_t> card;
     bool ingress = false;
     bool egress = false;
     std::string view = "detail";
@@ -73,7 +74,9 @@ static int show(const Arguments &arguments)
     if (!capture.error.empty()) {
         return complain(capture.error);
     }
-    set_card_type(arguments.card);
+    if (arguments.card) {
+        set_card_type(*arguments.card);
+    }
     const std::uint32_t status =
         zel_l2fib_print_internal(arguments.objtype, arguments.node, arguments.egress ? L2FIB_EGRESS : L2FIB_INGRESS,
                                  views.at(arguments.view), capture.bytes.data(), capture.bytes.size());

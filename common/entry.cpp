@@ -21,6 +21,14 @@ bool card_is_supported(Output &out, std::uint32_t node_id)
     return false;
 }
 
+std::optional<std::uint32_t> refusal(Output &out, const char *view, const ViewRequest &request)
+{
+    if (request.show_data == nullptr) {
+        return null_show_data(out, view, request.objtype);
+    }
+    return card_is_supported(out, request.node_id) ? std::nullopt : std::optional<std::uint32_t>{0};
+}
+
 void fill_hal_print()
 {
     constexpr std::size_t supported_card = 1;

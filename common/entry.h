@@ -4,6 +4,8 @@
 #include "common/output.h"
 #include "zel_l2fib/show.h"
 
+#include <optional>
+
 namespace l2fib
 {
 
@@ -19,6 +21,9 @@ struct ViewRequest {
 
 /// Whether the card of a node is of the supported family; says so on the screen when it is not.
 bool card_is_supported(Output &out, std::uint32_t node_id);
+
+/// Why an RP view cannot begin: the status that goes with what it printed. None when it can.
+std::optional<std::uint32_t> refusal(Output &out, const char *view, const ViewRequest &request);
 
 /// Empties zel_l2fib_hal_print and enters the views of the supported card family.
 void fill_hal_print();

@@ -3,7 +3,8 @@
 
 #include "common/show_data.h"
 
-#include <utility>
+#include <concepts>
+#include <tuple>
 
 namespace l2fib
 {
@@ -28,21 +29,30 @@ public:
         return take<Record>(1).data();
     }
 
-    /// Records of two kinds as one piece, the one behind the other.
-    template <ShowDataRecord First, ShowDataRecord Second>
-    std::pair<std::span<First>, std::span<Second>> take(std::uint32_t first_count, std::uint32_t second_count)
+    /// Records of several kinds as one piece, one kind behind the other: as many of each as `counts` says.
+    template <ShowDataRecord... Records>
+    requires(sizeof...(Records) >
+             1) std::tuple<std::span<Records>...> take(std::convertible_to<std::uint32_t> auto... counts)
     {
-        const std::uint64_t first_size = first_count * std::uint64_t{sizeof(First)};
-        if (!claim(first_size + second_count * std::uint64_t{sizeof(Second)})) {
+        if (!claim(((std::uint64_t{sizeof(Records)} * static_cast<std::uint32_t>(counts)) + ...))) {
             return {};
         }
-        return {data_.array_at<First>(begin_, first_count), data_.array_at<Second>(begin_ + first_size, second_count)};
+        std::uint64_t offset = begin_;
+        return {next<Records>(offset, static_cast<std::uint32_t>(counts))...};
     }
 
     /// Where the last piece ends that was asked for, from the first byte of the show data.
     [[nodiscard]] std::uint64_t end() const { return end_; }
 
 private:
+    template <class Record>
+    std::span<Record> next(std::uint64_t &offset, std::uint32_t count) const
+    {
+        const auto records = data_.array_at<Record>(offset, count);
+        offset += records.size_bytes();
+        return records;
+    }
+
     bool claim(std::uint64_t size)
     {
         const bool is_held = data_.holds(next_, size);

@@ -2,6 +2,7 @@
 
 #include "common/failure.h"
 #include "common/list.h"
+#include "common/show_data_cursor.h"
 #include "common/working_copies.h"
 #include "hw/flooding.h"
 #include "hw/np.h"
@@ -14,9 +15,10 @@ static constexpr FlagTable layer_flags{{{PwContext::layer_invalid, "invalid"}}};
 
 static std::uint32_t print_point_to_point(Output &out, std::uint32_t level, ShowData data, const char *handler)
 {
-    const auto *pw = data.at<PwShowData>(0);
+    ShowDataCursor cursor{data};
+    const auto *pw = cursor.take<PwShowData>();
     if (pw == nullptr) {
-        return short_data(out, level, data.size(), sizeof(PwShowData));
+        return short_data(out, level, data.size(), cursor.end());
     }
     const std::uint32_t np_count = pw->np_count.from_wire();
     if (!np_count_is_valid(np_count)) {
@@ -24,9 +26,9 @@ static std::uint32_t print_point_to_point(Output &out, std::uint32_t level, Show
         print_invalid_np_count(out, np_count);
         return 0;
     }
-    const auto records = data.array_at<PwNpRecord>(sizeof(PwShowData), np_count);
+    const auto records = cursor.take<PwNpRecord>(np_count);
     if (records.empty()) {
-        return short_data(out, level, data.size(), sizeof(PwShowData) + np_count * sizeof(PwNpRecord));
+        return short_data(out, level, data.size(), cursor.end());
     }
     std::uint32_t status = 0;
     for (PwNpRecord &record : records) {
@@ -68,33 +70,44 @@ static void print_paths(Output &out, std::uint32_t level, const Layer3Paths &pat
     print_path(backup, level, paths.backup);
 }
 
-/// Prints from copies: the show data keeps the ingress part as it was received.
-static void print_vpls_ingress(Output &out, std::uint32_t level, const PwIngressBlock &ingress, BridgePortContext &port)
+/// Prints the ingress part, where there is a whole one, from copies: the show data keeps it as received.
+static void print_vpls_ingress(Output &out, std::uint32_t level, ShowDataCursor &cursor, BridgePortContext &port,
+                               WorkingCopies<StormControlProfile> &profiles, std::uint32_t np_count)
 {
-    port = ingress.port;
+    const auto [ingress, stored_profiles] = cursor.take<PwIngressBlock, StormControlProfile>(1, np_count);
+    if (ingress.empty()) {
+        return;
+    }
+    port = ingress[0].port;
     port.to_host();
     print_flooding(out, level, port);
 
-    Layer3Paths paths = ingress.paths;
+    Layer3Paths paths = ingress[0].paths;
     paths.to_host();
     print_paths(out, level, paths);
+
+    for (std::uint32_t np = 0; np < np_count; ++np) { // no line shows these
+        profiles[np] = stored_profiles[np];
+        profiles[np].to_host();
+    }
 }
 
-static std::uint32_t print_vpls(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data,
-                                const char *handler)
+static std::uint32_t print_vpls(Output &out, std::uint32_t level, std::uint32_t direction, const PwContext &pw,
+                                ShowData data, const char *handler)
 {
-    const PwContext &context = *data.at<PwContext>(0);
-    print_flags(out, level, "Trident Layer Flags", layer_flags, context.layer_flags);
+    print_flags(out, level, "Trident Layer Flags", layer_flags, pw.layer_flags);
 
-    WorkingCopies<BridgePortContext> port(1, 0xff);
+    constexpr std::uint8_t never_filled = 0xff;
+    WorkingCopies<BridgePortContext> port(1, never_filled);
     if (!port.obtained()) {
         return L2FIB_SHOW_ERR_NOMEM;
     }
-    const auto *pw = data.at<PwShowData>(0);
-    if (pw == nullptr) {
-        return short_data(out, level, data.size(), sizeof(PwShowData));
+    ShowDataCursor cursor{data};
+    const auto *show_data = cursor.take<PwShowData>();
+    if (show_data == nullptr) {
+        return short_data(out, level, data.size(), cursor.end());
     }
-    const std::uint32_t np_count = pw->np_count.from_wire();
+    const std::uint32_t np_count = show_data->np_count.from_wire();
     if (!np_count_is_valid(np_count)) {
         print_invalid_np_count(out, np_count); // behind the layer flags, on their line
         return 0;
@@ -103,25 +116,18 @@ static std::uint32_t print_vpls(Output &out, std::uint32_t level, std::uint32_t 
     if (!profiles.obtained()) {
         return L2FIB_SHOW_ERR_NOMEM;
     }
-    const auto entries = data.array_at<XidEntry>(sizeof(PwShowData), np_count);
+    const auto entries = cursor.take<XidEntry>(np_count);
     if (entries.empty()) {
-        return short_data(out, level, data.size(), sizeof(PwShowData) + np_count * sizeof(XidEntry));
+        return short_data(out, level, data.size(), cursor.end());
     }
-    const std::uint64_t ingress_offset = sizeof(PwShowData) + entries.size_bytes();
-    const auto *ingress = data.at<PwIngressBlock>(ingress_offset);
-    const auto stored_profiles = data.array_at<StormControlProfile>(ingress_offset + sizeof(PwIngressBlock), np_count);
-    if (direction == L2FIB_INGRESS && ingress != nullptr && !stored_profiles.empty()) {
-        print_vpls_ingress(out, level, *ingress, port[0]);
-        for (std::uint32_t np = 0; np < np_count; ++np) {
-            profiles[np] = stored_profiles[np];
-            profiles[np].to_host();
-        }
+    if (direction == L2FIB_INGRESS) {
+        print_vpls_ingress(out, level, cursor, port[0], profiles, np_count);
     }
     std::uint32_t status = 0;
     for (std::uint32_t np = 0; np < np_count; ++np) {
         out.line(level, "NP%d", np);
-        status = zel_l2fib_print_xid_entry(out, level + 1, context.xid, &entries[np]);
-        report_xid_failure(out, level + 1, handler, context.xid, status);
+        status = zel_l2fib_print_xid_entry(out, level + 1, pw.xid, &entries[np]);
+        report_xid_failure(out, level + 1, handler, pw.xid, status);
     }
     return status;
 }
@@ -131,14 +137,14 @@ std::uint32_t zel_l2fib_pw_print_handler(Output &out, std::uint32_t level, std::
     if (data.is_null()) {
         return null_arguments(out, level, __func__);
     }
-    const auto *context = data.at<PwContext>(0);
-    if (context == nullptr) {
-        return L2FIB_SHOW_ERR_DATA;
-    }
-    if (context->service == service_mtun) {
+    const auto *pw = data.at<PwContext>(0);
+    if (pw != nullptr && pw->service == service_mtun) {
         return print_point_to_point(out, level, data, __func__);
     }
-    return context->service == service_vpls ? print_vpls(out, level, direction, data, __func__) : L2FIB_SHOW_ERR_DATA;
+    if (pw != nullptr && pw->service == service_vpls) {
+        return print_vpls(out, level, direction, *pw, data, __func__);
+    }
+    return L2FIB_SHOW_ERR_DATA;
 }
 
 } // namespace l2fib

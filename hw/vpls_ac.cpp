@@ -1,22 +1,23 @@
 #include "hw/vpls_ac.h"
 
 #include "common/failure.h"
+#include "common/show_data_cursor.h"
 #include "hw/flooding.h"
 #include "hw/np.h"
 
 #include <iterator>
-#include <optional>
 
 namespace l2fib
 {
 
-/// Where the record of an NP lies among np_count records: a single one serves every NP. None for an NP that has none.
-static std::optional<std::uint64_t> record_index(std::uint32_t np, std::uint32_t np_count)
+/// The record of an NP: a single one serves every NP. None for an NP beyond the records.
+template <class Record>
+static Record *record_of(std::span<Record> records, std::uint32_t np)
 {
-    if (np_count == 1) {
-        return 0;
+    if (records.size() == 1) {
+        return &records.front();
     }
-    return np < np_count ? std::optional<std::uint64_t>{np} : std::nullopt;
+    return np < records.size() ? &records[np] : nullptr;
 }
 
 static std::uint32_t print_np_without_record(Output &out, std::uint32_t level, std::uint32_t np)
@@ -46,20 +47,20 @@ static std::uint32_t zel_l2fib_vpls_egress_print_handler(Output &out, std::uint3
                                                          std::uint32_t np_count, ShowData block)
 {
     constexpr std::uint8_t bports_present = 0x01; // of the first byte; the ingress side asks for any bit of the word
-    const std::uint64_t needed = sizeof(VplsEgressBlock) + np_count * sizeof(VplsNpRecord);
-    if (block.size() < needed) {
-        return short_data(out, level, block.size(), needed);
+    ShowDataCursor cursor{block};
+    const auto [head, records] = cursor.take<VplsEgressBlock, VplsNpRecord>(1, np_count);
+    if (head.empty()) {
+        return short_data(out, level, block.size(), cursor.end());
     }
     std::uint32_t status = 0;
     const NpRange nps = np_range(ac.requested_np, np_count);
     for (std::uint32_t np = nps.first; np < nps.end; ++np) {
-        const auto index = record_index(np, np_count);
-        if (!index) {
+        VplsNpRecord *record = record_of(records, np);
+        if (record == nullptr) {
             return print_np_without_record(out, level, np);
         }
-        auto &record = *block.at<VplsNpRecord>(sizeof(VplsEgressBlock) + *index * sizeof(VplsNpRecord));
-        status = print_np(out, level, L2FIB_EGRESS, ac, np, record,
-                          (record.bports_present.bytes[0] & bports_present) != 0, __func__);
+        status = print_np(out, level, L2FIB_EGRESS, ac, np, *record,
+                          (record->bports_present.bytes[0] & bports_present) != 0, __func__);
     }
     return status;
 }
@@ -90,25 +91,25 @@ static void print_ac_storm_control(Output &out, std::uint32_t level, const Bridg
 static std::uint32_t zel_l2fib_vpls_ingress_print_handler(Output &out, std::uint32_t level, const AcContext &ac,
                                                           std::uint32_t np_count, ShowData block)
 {
-    constexpr std::uint64_t header_size = sizeof(VplsIngressBlock);
-    const std::uint64_t needed = header_size + np_count * sizeof(VplsIngressNpRecord) + sizeof(VplsIngressTrailer);
-    if (block.size() < needed) {
-        return short_data(out, level, block.size(), needed);
+    ShowDataCursor cursor{block};
+    const auto [head, records, trailer] =
+        cursor.take<VplsIngressBlock, VplsIngressNpRecord, VplsIngressTrailer>(1, np_count, 1);
+    if (head.empty()) {
+        return short_data(out, level, block.size(), cursor.end());
     }
-    BridgePortContext &port = block.at<VplsIngressBlock>(0)->port;
+    BridgePortContext &port = head.front().port;
     port.to_host();
     print_flooding(out, level, port);
 
     std::uint32_t status = 0;
     const NpRange nps = np_range(ac.requested_np, np_count);
     for (std::uint32_t np = nps.first; np < nps.end; ++np) {
-        const auto index = record_index(np, np_count);
-        if (!index) {
+        VplsIngressNpRecord *record = record_of(records, np);
+        if (record == nullptr) {
             return print_np_without_record(out, level, np);
         }
-        auto &record = *block.at<VplsIngressNpRecord>(header_size + *index * sizeof(VplsIngressNpRecord));
-        status = print_np(out, level, L2FIB_INGRESS, ac, np, record.np, record.np.bports_present != 0, __func__);
-        print_ac_storm_control(out, level + 1, port, np, record.storm_control);
+        status = print_np(out, level, L2FIB_INGRESS, ac, np, record->np, record->np.bports_present != 0, __func__);
+        print_ac_storm_control(out, level + 1, port, np, record->storm_control);
     }
     return status;
 }

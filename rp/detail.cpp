@@ -39,11 +39,9 @@ uint32_t zel_l2fib_print_internal_detail(uint32_t objtype, uint32_t node_id, uin
 {
     using namespace l2fib;
     Output out;
-    if (show_data == nullptr) {
-        return null_show_data(out, __func__, objtype);
-    }
-    if (!card_is_supported(out, node_id)) {
-        return 0;
+    const ViewRequest request{objtype, node_id, direction, view_flags, show_data, size};
+    if (const auto status = refusal(out, __func__, request)) {
+        return *status;
     }
     if (objtype == L2FIB_OBJTYPE_MCAST_LEAF) {
         return 0; // known, and nothing to show
@@ -55,8 +53,7 @@ uint32_t zel_l2fib_print_internal_detail(uint32_t objtype, uint32_t node_id, uin
     if (view->print != nullptr) {
         view->print(out, direction, show_data);
     }
-    const std::uint32_t status =
-        hand_over(view->hand_over_level, {objtype, node_id, direction, view_flags, show_data, size});
+    const std::uint32_t status = hand_over(view->hand_over_level, request);
     out.text("\n");
     return status;
 }

@@ -7,13 +7,11 @@ uint32_t zel_l2fib_print_internal_private(uint32_t objtype, uint32_t node_id, ui
 {
     using namespace l2fib;
     Output out;
-    if (show_data == nullptr) {
-        return null_show_data(out, __func__, objtype);
-    }
-    if (!card_is_supported(out, node_id)) {
-        return 0;
+    const ViewRequest request{objtype, node_id, direction, view_flags, show_data, size};
+    if (const auto status = refusal(out, __func__, request)) {
+        return *status;
     }
     out.line(1);
     wrong_objtype(out, __func__, objtype);
-    return hand_over(1, {objtype, node_id, direction, view_flags, show_data, size});
+    return hand_over(1, request);
 }
