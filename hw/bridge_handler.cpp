@@ -225,7 +225,7 @@ std::uint32_t zel_l2fib_brg_print_handler(Output &out, std::uint32_t level, std:
     return data.is_null() ? null_arguments(out, level + 1, __func__) : BridgeWalk{out, level, data}.print(direction);
 }
 
-std::uint32_t print_bridge(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
+std::uint32_t print_bridge_with_hal_context(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
 {
     ShowDataCursor cursor{data};
     const auto *bridge = cursor.take<BridgeShowData>();

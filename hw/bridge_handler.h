@@ -54,7 +54,7 @@ static_assert(sizeof(BridgeMemberCounts) == 4);
 
 /// Prints the HAL's context of a bridge whose RP context is in host order, and then what the NPs hold. Statuses: 0,
 /// L2FIB_SHOW_ERR_ARGS, L2FIB_SHOW_ERR_DATA, L2FIB_SHOW_ERR_NOMEM.
-std::uint32_t print_bridge(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
+std::uint32_t print_bridge_with_hal_context(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
 
 /// The part of it that the NPs hold.
 std::uint32_t zel_l2fib_brg_print_handler(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);

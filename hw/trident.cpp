@@ -1,6 +1,6 @@
 // The hardware side of a request: which view, and which object's handler.
-#include "common/entry.h"
 #include "common/failure.h"
+#include "common/hal_print.h"
 #include "common/list.h"
 #include "common/objtype.h"
 #include "hw/ac_handler.h"
@@ -35,8 +35,18 @@ static const char *service_of_ac(ShowData data)
     return service_name(service == nullptr ? UINT32_MAX : service->value());
 }
 
-static std::uint32_t print_ac(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data,
-                              const char *view)
+constexpr const char *detail_view = "zel_l2fib_trident_print_internal_detail";
+
+/// Reports an object whose handler failed. Returns the status.
+static std::uint32_t report_failure(Output &out, std::uint32_t level, std::uint32_t objtype, std::uint32_t status)
+{
+    if (status != 0) {
+        out.line(level, "%s: print handler failed for objtype %d : %s", detail_view, objtype, status_text(status));
+    }
+    return status;
+}
+
+static std::uint32_t print_ac(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
 {
     out.line(level);
     const auto *ac = data.at<AcShowData>(0);
@@ -45,46 +55,43 @@ static std::uint32_t print_ac(Output &out, std::uint32_t level, std::uint32_t di
     }
     const std::uint32_t status = zel_l2fib_ac_print_handler(out, level, direction, data);
     if (status != 0) {
-        out.line(level, "%s: print handler failed for service %s objtype %d : %s", view, service_of_ac(data),
+        out.line(level, "%s: print handler failed for service %s objtype %d : %s", detail_view, service_of_ac(data),
                  std::uint32_t{L2FIB_OBJTYPE_AC}, status_text(status));
     }
     return status;
 }
 
-/// Reports, for a view, an object whose handler failed.
-static void report_handler_failure(Output &out, std::uint32_t level, const char *view, std::uint32_t objtype,
-                                   std::uint32_t status)
-{
-    if (status != 0) {
-        out.line(level, "%s: print handler failed for objtype %d : %s", view, objtype, status_text(status));
-    }
-}
-
 static std::uint32_t print_pw(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
 {
-    auto *pw = data.at<PwContext>(0);
-    if (pw == nullptr) {
-        return zel_l2fib_pw_print_handler(out, level, direction, data);
+    if (auto *pw = data.at<PwContext>(0); pw != nullptr) {
+        to_host(pw->platform_words, pw->layer_flags);
+        if (pw->service == service_vpls) {
+            List keys{out, level};
+            keys.item("Port Learn Key: %u", pw->port_learn_key);
+        }
+        if (pw->state != state_bound) {
+            return 0;
+        }
     }
-    to_host(pw->platform_words, pw->layer_flags);
-    if (pw->service == service_vpls) {
-        List keys{out, level};
-        keys.item("Port Learn Key: %u", pw->port_learn_key);
-    }
-    return pw->state == state_bound ? zel_l2fib_pw_print_handler(out, level, direction, data) : 0;
+    const std::uint32_t status = zel_l2fib_pw_print_handler(out, level, direction, data);
+    return report_failure(out, level, L2FIB_OBJTYPE_MPLS, status);
 }
 
 /// A bridge without show data is its handler's to report; one with some begins with the HAL's context.
-static std::uint32_t print_bridge_view(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data,
-                                       const char *view)
+static std::uint32_t print_bridge(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
 {
     const std::uint32_t status = data.is_null() ? zel_l2fib_brg_print_handler(out, level, direction, data)
-                                                : print_bridge(out, level, direction, data);
-    report_handler_failure(out, level + 1, view, L2FIB_OBJTYPE_BRIDGE, status);
+                                                : print_bridge_with_hal_context(out, level, direction, data);
+    report_failure(out, level + 1, L2FIB_OBJTYPE_BRIDGE, status);
     if (status != 0) {
         out.text("\n"); // the one failure whose line is ended
     }
     return status;
+}
+
+static std::uint32_t print_mac(Output &out, std::uint32_t level, ShowData data)
+{
+    return report_failure(out, level, L2FIB_OBJTYPE_BRIDGE_MAC, zel_l2fib_mac_print_handler(out, level, data));
 }
 
 } // namespace l2fib
@@ -115,18 +122,15 @@ uint32_t zel_l2fib_trident_print_internal_detail(uint32_t level, uint32_t objtyp
     using namespace l2fib;
     Output out;
     const ShowData data{show_data, size};
-    std::uint32_t status = 0;
     switch (objtype) {
-    case L2FIB_OBJTYPE_AC: return print_ac(out, level, direction, data, __func__);
-    case L2FIB_OBJTYPE_MPLS: status = print_pw(out, level, direction, data); break;
-    case L2FIB_OBJTYPE_BRIDGE: return print_bridge_view(out, level, direction, data, __func__);
-    case L2FIB_OBJTYPE_BRIDGE_MAC: status = zel_l2fib_mac_print_handler(out, level, data); break;
+    case L2FIB_OBJTYPE_AC: return print_ac(out, level, direction, data);
+    case L2FIB_OBJTYPE_MPLS: return print_pw(out, level, direction, data);
+    case L2FIB_OBJTYPE_BRIDGE: return print_bridge(out, level, direction, data);
+    case L2FIB_OBJTYPE_BRIDGE_MAC: return print_mac(out, level, data);
     case L2FIB_OBJTYPE_NHOP:
     case L2FIB_OBJTYPE_BRIDGE_PORT: return 0; // the RP's context is all there is
     default: out.line(level); return wrong_objtype(out, __func__, objtype);
     }
-    report_handler_failure(out, level, __func__, objtype, status);
-    return status;
 }
 
 uint32_t zel_l2fib_trident_print_internal_private(uint32_t /*level*/, uint32_t objtype, uint32_t /*card_type*/,

@@ -1,8 +1,8 @@
 // The detail view: an object's RP context as an operator reads it, then the hardware's part.
 #include "rp/detail.h"
 
-#include "common/entry.h"
 #include "common/failure.h"
+#include "common/hal_print.h"
 
 namespace l2fib
 {

@@ -1,5 +1,5 @@
 // The inconsistency view: the RP's report on an object, then the hardware's.
-#include "common/entry.h"
+#include "common/hal_print.h"
 #include "common/objtype.h"
 
 uint32_t zel_l2fib_print_internal_inconsistent(uint32_t objtype, uint32_t node_id, uint32_t /*direction*/,

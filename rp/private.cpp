@@ -1,6 +1,6 @@
 // The private view: an object's RP context field by field, then the hardware's part.
-#include "common/entry.h"
 #include "common/failure.h"
+#include "common/hal_print.h"
 
 uint32_t zel_l2fib_print_internal_private(uint32_t objtype, uint32_t node_id, uint32_t direction, uint32_t view_flags,
                                           uint8_t *show_data, uint64_t size)

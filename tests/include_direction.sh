@@ -12,8 +12,8 @@ forbid() {
 }
 
 everywhere='client/|examples/|tests/|platform/host/'
-forbid "$(ls common/*.h common/*.cpp | grep -v '^common/entry\.')" "rp/|hw/|$everywhere" "formatting knows no record"
-forbid "common/entry.h common/entry.cpp" "rp/[a-z0-9_]*detail|rp/[a-z_]*_context\.h|hw/|$everywhere" \
+forbid "$(ls common/*.h common/*.cpp | grep -v '^common/front_door\.')" "rp/|hw/|$everywhere" "formatting knows no record"
+forbid "common/front_door.cpp" "rp/[a-z0-9_]*detail|rp/[a-z_]*_context\.h|hw/|$everywhere" \
     "the front door knows no record and no view"
 forbid "$(ls rp/*.h rp/*.cpp)" "hw/|$everywhere" "the RP's side reaches the hardware's through the print table"
 forbid "$(ls hw/*.h hw/*.cpp)" "rp/[a-z_]*detail|rp/context_end|$everywhere" "the hardware's side calls no RP view"

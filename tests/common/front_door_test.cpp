@@ -10,10 +10,10 @@ namespace l2fib
 
 using Bytes = std::vector<std::uint8_t>;
 
-class Entry : public testing::Test
+class FrontDoor : public testing::Test
 {
 protected:
-    ~Entry() override { test_platform = {}; }
+    ~FrontDoor() override { test_platform = {}; }
 };
 
 static Shown print_internal(std::uint32_t objtype, std::uint32_t view_flags, const Bytes &bytes)
@@ -22,7 +22,7 @@ static Shown print_internal(std::uint32_t objtype, std::uint32_t view_flags, con
     return shown([&] { return zel_l2fib_print_internal(objtype, 0, 1, view_flags, data.data(), data.size()); });
 }
 
-TEST_F(Entry, CardFamily)
+TEST_F(FrontDoor, CardFamily)
 {
     const struct {
         std::uint32_t code;
@@ -35,7 +35,7 @@ TEST_F(Entry, CardFamily)
     }
 }
 
-TEST_F(Entry, UnsupportedCardsShowNothingElse)
+TEST_F(FrontDoor, UnsupportedCardsShowNothingElse)
 {
     test_platform.card_type = 0x1e1004;
     const Shown unsupported{"\nUnsupported card type NONE: 0"};
@@ -47,7 +47,7 @@ TEST_F(Entry, UnsupportedCardsShowNothingElse)
               Shown{"Unsupported card type: NONE"});
 }
 
-TEST_F(Entry, NullShowData)
+TEST_F(FrontDoor, NullShowData)
 {
     EXPECT_EQ(shown([] { return zel_l2fib_print_internal(2, 0, 1, 1, nullptr, 0); }),
               (Shown{"zel_l2fib_print_internal_detail: NULL show data objtype 2 action 99\n", L2FIB_SHOW_ERR_ARGS}));
@@ -55,7 +55,7 @@ TEST_F(Entry, NullShowData)
               (Shown{"zel_l2fib_print_internal_private: NULL show data objtype 11 action 99\n", L2FIB_SHOW_ERR_ARGS}));
 }
 
-TEST_F(Entry, ShowDataThatEndsInsideTheContext)
+TEST_F(FrontDoor, ShowDataThatEndsInsideTheContext)
 {
     Bytes vpls_ac(106);
     vpls_ac[1] = 3; // NPs
@@ -85,7 +85,7 @@ TEST_F(Entry, ShowDataThatEndsInsideTheContext)
     }
 }
 
-TEST_F(Entry, ObjectsWithoutAView)
+TEST_F(FrontDoor, ObjectsWithoutAView)
 {
     const std::string detail = "zel_l2fib_print_internal_detail: Wrong L2FIB objtype 5 action 100";
     EXPECT_EQ(print_internal(L2FIB_OBJTYPE_VNI, L2FIB_VIEW_DETAIL, Bytes(8)), Shown{detail});
@@ -99,7 +99,7 @@ TEST_F(Entry, ObjectsWithoutAView)
     EXPECT_EQ(print_internal(40, 6, Bytes(1)), Shown{"\n  Platform object Invalid not handled"});
 }
 
-TEST_F(Entry, HardwareViewsByFlags)
+TEST_F(FrontDoor, HardwareViewsByFlags)
 {
     Bytes bytes(8);
     const auto hardware = [&](std::uint32_t objtype, std::uint32_t view_flags) {
@@ -115,7 +115,7 @@ TEST_F(Entry, HardwareViewsByFlags)
     EXPECT_EQ(hardware(L2FIB_OBJTYPE_BRIDGE_PORT, 1), Shown{""});
 }
 
-TEST_F(Entry, EmptySlotLeavesTheHardwareOut)
+TEST_F(FrontDoor, EmptySlotLeavesTheHardwareOut)
 {
     Bytes bytes(2000);
     zel_l2fib_hal_print[1].object_print = nullptr;
@@ -126,7 +126,7 @@ TEST_F(Entry, EmptySlotLeavesTheHardwareOut)
     EXPECT_EQ(zel_l2fib_hal_print[0].object_print, nullptr);
 }
 
-TEST_F(Entry, Sizes)
+TEST_F(FrontDoor, Sizes)
 {
     const struct {
         std::uint32_t objtype;

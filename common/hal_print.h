@@ -1,4 +1,4 @@
-// What the views share at their beginning and at their end.
+// Which cards are supported, and how the RP's views hand over to the hardware's.
 #pragma once
 
 #include "common/output.h"
