@@ -13,7 +13,10 @@ class List
 {
 public:
     /// Opens a line for a list of values, which continues at the line's indentation.
-    List(Output &out, std::uint32_t level) : out_(out), column_(out.line(level)), continuation_(column_) {}
+    List(Output &out, std::uint32_t level)
+        : out_(out), indentation_(out.line(level)), column_(indentation_), continuation_(indentation_)
+    {
+    }
 
     /// Opens a line for a labelled list, which continues under its first item.
     List(Output &out, std::uint32_t level, const char *label) : List(out, level)
@@ -54,8 +57,11 @@ public:
         }
     }
 
-    /// Has the items from here on continue at another indentation.
-    void continue_at(std::uint32_t level) { continuation_ = static_cast<int>(2 * level); }
+    /// The column at which the line begins.
+    [[nodiscard]] int indentation() const { return indentation_; }
+
+    /// Has the items from here on continue at another column.
+    void continue_at(int column) { continuation_ = column; }
 
     /// What a list of flags shows when none was set.
     void none_if_empty()
@@ -69,6 +75,7 @@ private:
     void separate();
 
     Output &out_;
+    int indentation_;
     int column_;
     int continuation_;
     int items_ = 0;

@@ -17,15 +17,15 @@ static constexpr FlagTable member_flags{{
     {23, "Local Rack Table"},
 }};
 
-static void print_copy(Output &out, std::uint32_t level, const BridgeMemberRecord &member,
+/// Flags and values share a line, and "None" is followed by the first value without a comma. The values continue
+/// further out than the line, at the column of the member's heading.
+static void print_copy(Output &out, std::uint32_t level, int heading_column, const BridgeMemberRecord &member,
                        std::uint32_t irl_shg0_bound_members)
 {
-    // Flags and values share the line, and "None" is followed by the first value without a comma. The values continue
-    // one level further out than the line.
-    List line{out, level + 1, "Flags"};
+    List line{out, level, "Flags"};
     line.flags(member_flags, member.flags);
     line.none_if_empty();
-    line.continue_at(level);
+    line.continue_at(heading_column);
     if (member.flags.test(BridgeMemberRecord::evpn_ole)) {
         line.item("Label: %u", member.label);
         line.item("LDI: %u", member.ldi);
@@ -46,8 +46,9 @@ void print_bridge_member(Output &out, std::uint32_t level, std::uint32_t member,
 {
     for (std::uint32_t copy = 0; copy < copies.size(); ++copy) {
         copies[copy].to_host();
-        out.line(level, "Bridge Member %d, copy %d ", member, copy);
-        print_copy(out, level, copies[copy], irl_shg0_bound_members);
+        const int heading_column = out.line(level);
+        out.text("Bridge Member %d, copy %d ", member, copy);
+        print_copy(out, level + 1, heading_column, copies[copy], irl_shg0_bound_members);
     }
 }
 

@@ -41,14 +41,14 @@ static std::uint32_t print_point_to_point(Output &out, std::uint32_t level, Show
 
 /// The rest of a path's line: where it leaves the router. Its values continue at the line's indentation, its flags
 /// under the first of them.
-static void print_path(List &line, std::uint32_t level, const PathDescriptor &path)
+static void print_path(List &line, const PathDescriptor &path)
 {
     if (!path.flags.test(PathDescriptor::ifhandle_valid)) {
         line.item("ifhandle invalid");
         return;
     }
     line.item_if(path.flags.test(PathDescriptor::lag), "LAG");
-    line.continue_at(level);
+    line.continue_at(line.indentation());
     line.item("ifhandle: 0x%08x", path.ifhandle);
     line.item("sfp_or_lagid: 0x%04x", path.sfp_or_lagid);
 }
@@ -60,14 +60,14 @@ static void print_paths(Output &out, std::uint32_t level, const Layer3Paths &pat
         primary.item("Unresolved"); // and without a primary path there is no backup
         return;
     }
-    print_path(primary, level, paths.primary);
+    print_path(primary, paths.primary);
 
     List backup{out, level, "Backup L3 path"};
     if (!paths.state.flags.test(PathState::backup_valid)) {
         backup.item("Not set");
         return;
     }
-    print_path(backup, level, paths.backup);
+    print_path(backup, paths.backup);
 }
 
 /// Prints the ingress part, where there is a whole one, from copies: the show data keeps it as received.
