@@ -39,8 +39,8 @@ extern "C" {
 #define L2FIB_SHOW_ERR_ARGS  UINT32_C(0x46258e00) /* a required pointer is null; a summary's size is unacceptable */
 #define L2FIB_SHOW_ERR_NOMEM UINT32_C(0xc6258200) /* a working buffer could not be allocated */
 
-/* Directions. Any other value counts as egress, except in the hardware part of an AC whose service is not VPLS: it takes
- * these two only. */
+/* Directions. Any other value counts as egress, except in the hardware part of an AC whose service is not VPLS, which
+ * takes these two only. */
 #define L2FIB_INGRESS UINT32_C(1)
 #define L2FIB_EGRESS  UINT32_C(2)
 

@@ -50,24 +50,6 @@ protected:
     std::vector<BridgeMemberRecord> members;
 };
 
-TEST_F(BridgeHandler, EmptyDomain)
-{
-    EXPECT_EQ(show(1, bytes()), Shown{R"(
-
-
-Platform Bridge HAL context:
-  Flags: None
-  Number of NPs: 1, learn key: 0, vni_id: 0
-  
-  Platform Bridge Domain Hardware Information:
-    Bridge Domain: 0 NP 0
-      Flags: None
-      Num Members: 0, Learn Key: 0x00, Half Age: 0
-      fgid shg0: 0x000000, fgid shg1: 0x000000, fgid shg2: 0x000000, mgid index: 0
-      BD learn cntr: 0x00000000
-    )"});
-}
-
 TEST_F(BridgeHandler, EveryFlagOfADomain)
 {
     set(domain.flags.word, 0xffffffff);
