@@ -4,9 +4,7 @@
 #include "tests/support/printed.h"
 #include "tests/support/test_platform.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 
 namespace l2fib
 {
@@ -14,12 +12,6 @@ namespace l2fib
 static std::ostream &operator<<(std::ostream &out, const SampleCapture &sample)
 {
     return out << sample.name;
-}
-
-static std::string file_text(const std::string &path)
-{
-    std::ifstream file(std::string(L2FIB_SOURCE_DIR "/") + path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 class Samples : public testing::TestWithParam<SampleCapture>

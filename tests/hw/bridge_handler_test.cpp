@@ -50,30 +50,6 @@ protected:
     std::vector<BridgeMemberRecord> members;
 };
 
-TEST_F(BridgeHandler, EveryFlagOfADomain)
-{
-    set(domain.flags.word, 0xffffffff);
-    set(domain.members, 0x00120003);
-    set(domain.isid, 0x123456ff);
-    set(domain.vni_id, 0x00000a00);
-    set(domain.head_end_ptree_internal_label, 77);
-    EXPECT_EQ(domain_lines(), R"(
-    Bridge Domain: 0 NP 0
-      Flags: Virtual Table, PBB Core, PBB Enable, PBB EVPN BD, EVPN BD, IGMP Snoop Enable,
-             MLD Snoop Enable, Multicast Flooding, CorePW Present, Learn Enable,
-             No members this LC, Single SHG0 NP, SHG2 Only, PBB Core to Edge Enable,
-             PBB Edge to Core Enable, No Learn, Learn Drop, PBB ISID Flood,
-             MMRP Enabled, BVI, VNI, Rmt Rack SHG2, Rmt Rack SHG1, Rmt Rack SHG0,
-             P2MP Tree Enabled, PBB VPLS and eVPN, PW over BVI, EVPN Flow Label
-      Head-end P-Tree Int Label: 77 
-      Num Members: 1, Learn Key: 0x00, Half Age: 0
-      fgid shg0: 0x000000, fgid shg1: 0x000000, fgid shg2: 0x000000, mgid index: 0
-      single_shg0_xid: 0x00000000
-      PBB Core BD: 0, ISID: 1193046, BD learn cntr: 0x00000000, EVPN cntr: 0x000000,
-      vnid: 10, BVI TCAM index: 0x000000
-    )");
-}
-
 TEST_F(BridgeHandler, Members)
 {
     set_as_stored(hal_np.shg_members[0], 1);

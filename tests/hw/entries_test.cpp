@@ -42,24 +42,6 @@ Xconnect ID: 0x00000012
   Split Horizon Group: 7)");
 }
 
-TEST(XidEntry, EveryFlagOfAPseudowireWithoutControlWord)
-{
-    XidEntry entry{};
-    set(entry.type, XidEntry::type_pw);
-    set(entry.flags.word, 0xffffffff);
-    const std::string text = xid_text(entry);
-    EXPECT_EQ(text.substr(0, text.find("\n  \n")), R"(
-Xconnect ID: 0x00000012
-  Type: Pseudowire (no control word)
-  Flags: Unknown unicast flood block, Multicast flood block, Learn enable,
-         Type 4, MAC limit port level, Virtual XID, Local replication, Unbound,
-         Learn limit no learn, Learn limit drop, Load balance flow based,
-         Flow Label imposition, Broadcast storm control, Multicast storm control,
-         Unknown unicast storm control, VPLS, PW DHCP snoop trusted, PW DHCP snoop,
-         MAC security, MAC Flush Request, EVPN flood block, Ingress block,
-         Egress block, Learn only, MSTI enabled)");
-}
-
 TEST(XidEntry, BundleHashesByFlowOrByXid)
 {
     XidEntry entry{};
@@ -135,23 +117,6 @@ static std::string uidb_line(const UidbEntry &entry, std::uint32_t direction, co
     const std::string text = uidb_shown(entry, direction).text;
     const std::size_t at = text.find("\n  " + begin);
     return at == std::string::npos ? "" : text.substr(at + 3, text.find('\n', at + 1) - at - 3);
-}
-
-TEST(UidbEntry, GroupsOfFlagsFollowTheSelector)
-{
-    constexpr UidbFlag efp_filtering{106, 0x01};
-    constexpr UidbFlag remote_rack{115, 0x40};
-    constexpr UidbFlag remote_rack_too{118, 0x10};
-    constexpr UidbFlag punt_pvst_ag{113, 0x08};
-    constexpr UidbFlag unlisted{111, 0x20};
-    UidbEntry entry{};
-    set_flags(entry, {efp_filtering, remote_rack, remote_rack_too, punt_pvst_ag, unlisted, UidbEntry::bd_lookup});
-    EXPECT_EQ(uidb_line(entry, 1, "Flags"), "Flags: L3, Punt PVST AG, VPWS Remote Rack, VPWS Remote Rack, BD Lookup,");
-    EXPECT_EQ(uidb_line(entry, 2, "Flags"), "Flags: L3");
-
-    set_flags(entry, {UidbEntry::group_selector});
-    EXPECT_EQ(uidb_line(entry, 1, "Flags"), "Flags: L3, Punt PVST AG, VPWS Remote Rack, VPWS Remote Rack");
-    EXPECT_EQ(uidb_line(entry, 2, "Flags"), "Flags: L3, EFP Filtering");
 }
 
 TEST(UidbEntry, DestinationByTheFirstFlagThatHolds)

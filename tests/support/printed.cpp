@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <fstream>
+#include <iterator>
 #include <ostream>
 #include <stdexcept>
 #include <sys/mman.h>
@@ -69,6 +71,12 @@ Shown shown_detail(std::uint32_t objtype, std::uint32_t direction, const std::ve
     const GuardedBytes data(bytes);
     return shown(
         [&] { return zel_l2fib_print_internal(objtype, 0, direction, L2FIB_VIEW_DETAIL, data.data(), data.size()); });
+}
+
+std::string file_text(const std::string &path)
+{
+    std::ifstream file(std::string(L2FIB_SOURCE_DIR "/") + path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 unsigned occurrences(const std::string &text, const std::string &what)

@@ -55,6 +55,9 @@ Shown shown_hardware(std::uint32_t level, std::uint32_t objtype, std::uint32_t d
 /// The same for the whole detail view.
 Shown shown_detail(std::uint32_t objtype, std::uint32_t direction, const std::vector<std::uint8_t> &bytes);
 
+/// A file below the sources.
+std::string file_text(const std::string &path);
+
 /// How often a text contains another.
 unsigned occurrences(const std::string &text, const std::string &what);
 

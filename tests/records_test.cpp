@@ -1,0 +1,216 @@
+// Every field and every flag of the records, by the bytes that they lie in: a field that is read elsewhere, at another
+// width or in another order, or a bit with another name, changes the text. The expected texts are in screens/.
+#include "common/show_data.h"
+#include "hw/bport_entry.h"
+#include "hw/bridge_domain.h"
+#include "hw/bridge_hal_context.h"
+#include "hw/bridge_member.h"
+#include "hw/mac_handler.h"
+#include "hw/uidb_entry.h"
+#include "hw/xid_entry.h"
+#include "rp/ac_context.h"
+#include "rp/bridge_port_context.h"
+#include "rp/pw_context.h"
+#include "tests/support/printed.h"
+#include "zel_l2fib/show.h"
+
+#include <gtest/gtest.h>
+#include <iomanip>
+#include <sstream>
+
+namespace l2fib
+{
+
+using Wire = std::vector<std::uint8_t>;
+
+struct RecordCase {
+    const char *name;
+    std::size_t size;
+    std::vector<std::size_t> flag_bytes;
+    std::vector<std::pair<std::size_t, std::uint8_t>> fixed; // bytes that decide what is shown, or would show a clock
+    std::function<void(Output &, Wire &)> print;
+};
+
+template <class Record>
+static Record &record(Wire &bytes)
+{
+    return ShowData::promised<Record>(bytes.data());
+}
+
+/// The RP's part of the detail view, as from a client that calls it directly.
+static auto rp_detail(std::uint32_t objtype)
+{
+    return [objtype](Output &, Wire &bytes) {
+        zel_l2fib_hal_print[1].object_print = nullptr;
+        zel_l2fib_print_internal_detail(objtype, 0, L2FIB_INGRESS, L2FIB_VIEW_DETAIL, bytes.data(), bytes.size());
+    };
+}
+
+static void xid_entry(Output &out, Wire &bytes)
+{
+    zel_l2fib_print_xid_entry(out, 0, 0x12, &record<XidEntry>(bytes));
+}
+
+static auto uidb_entry(std::uint32_t direction)
+{
+    return [direction](Output &out, Wire &bytes) {
+        zel_l2fib_print_uidb_entry(out, 0, direction, 2, &record<UidbEntry>(bytes));
+    };
+}
+
+static void bport(Output &out, Wire &bytes)
+{
+    auto &bport = record<Bport>(bytes);
+    zel_l2fib_print_bport_entry(out, 0, &bport.key, &bport.entry);
+}
+
+static void bridge_hal(Output &out, Wire &bytes)
+{
+    const ShowData data{bytes.data(), bytes.size()};
+    const auto nps = data.array_at<const BridgeHalNpEntry>(sizeof(BridgeHalContext), 1);
+    print_bridge_hal_context(out, 0, record<BridgeHalContext>(bytes), nps);
+}
+
+static void bridge_domain(Output &out, Wire &bytes)
+{
+    auto &domain = record<BridgeDomainRecord>(bytes);
+    domain.to_host();
+    print_bridge_domain_flags(out, 0, domain);
+    print_bridge_domain_values(out, 0, domain);
+}
+
+static void bridge_member(Output &out, Wire &bytes)
+{
+    print_bridge_member(out, 0, 0, {&record<BridgeMemberRecord>(bytes), 1}, 7);
+}
+
+static void mac(Output &out, Wire &bytes)
+{
+    zel_l2fib_mac_print_handler(out, 0, {bytes.data(), bytes.size()});
+}
+
+static const std::vector<std::size_t> uidb_flag_bytes = {105, 106, 107, 108, 109, 110, 111,
+                                                         112, 113, 114, 115, 116, 117, 118};
+
+static const std::vector<RecordCase> record_cases = {
+    {"AC context", sizeof(AcShowData), {66, 67, 68, 69}, {{6, 0}, {7, 0}, {8, 0}, {9, 4}}, rp_detail(2)},
+    {"PW context", sizeof(PwContext), {216, 217, 218, 219}, {{4, 0}, {5, 0}, {6, 0}, {7, 2}}, rp_detail(3)},
+    {"bridge context",
+     sizeof(BridgeShowData),
+     {154, 155, 156, 157},
+     {{119, 0x04}, {514, 0}, {515, 0}, {516, 0}, {517, 0}, {518, 0}, {519, 0}, {520, 0}, {521, 0}},
+     rp_detail(11)},
+    {"bridge port context",
+     sizeof(BridgePortContext),
+     {32, 33, 34, 35, 76, 77, 78, 79, 80, 81, 82, 83},
+     {{32, 0xff},
+      {34, 0xff},
+      {77, 0xff},
+      {120, 0},
+      {121, 0},
+      {122, 0},
+      {123, 0},
+      {124, 0},
+      {125, 0},
+      {126, 0},
+      {127, 0}},
+     rp_detail(13)},
+    {"bridge MAC context", sizeof(BridgeMacContext), {8, 9, 10, 11}, {}, rp_detail(14)},
+    {"XID entry, AC", sizeof(XidEntry), {16, 17, 18, 19}, {{24, 0}, {25, 0}, {26, 0}, {27, 1}, {17, 0x02}}, xid_entry},
+    {"XID entry, bundle", sizeof(XidEntry), {}, {{24, 0}, {25, 0}, {26, 0}, {27, 2}}, xid_entry},
+    {"XID entry, PW", sizeof(XidEntry), {16}, {{24, 0}, {25, 0}, {26, 0}, {27, 3}}, xid_entry},
+    {"bridge port entry", sizeof(Bport), {16, 17, 18, 19}, {}, bport},
+    {"uIDB entry, ingress",
+     sizeof(UidbEntry),
+     uidb_flag_bytes,
+     {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {105, 0x50}, {112, 0x03}, {113, 0x20}},
+     uidb_entry(1)},
+    {"uIDB entry, ingress, group selector set, LAG",
+     sizeof(UidbEntry),
+     uidb_flag_bytes,
+     {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {105, 0}, {117, 0x80}, {118, 0x80}},
+     uidb_entry(1)},
+    {"uIDB entry, egress",
+     sizeof(UidbEntry),
+     uidb_flag_bytes,
+     {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {105, 0x10}, {108, 0x20}, {110, 0x10}, {112, 0x03}, {117, 0}},
+     uidb_entry(2)},
+    {"uIDB entry, egress, group selector set",
+     sizeof(UidbEntry),
+     uidb_flag_bytes,
+     {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {117, 0x80}},
+     uidb_entry(2)},
+    {"bridge HAL context", sizeof(BridgeHalContext) + sizeof(BridgeHalNpEntry), {4}, {}, bridge_hal},
+    {"bridge domain",
+     sizeof(BridgeDomainRecord),
+     {0, 1, 2, 3},
+     {{0, 0xff}, {1, 0xff}, {2, 0xff}, {3, 0xff}},
+     bridge_domain},
+    {"bridge member", sizeof(BridgeMemberRecord), {4, 5, 6, 7}, {{4, 0x80}}, bridge_member},
+    {"bridge member, EVPN OLE", sizeof(BridgeMemberRecord), {}, {{4, 0x28}}, bridge_member},
+    {"MAC", sizeof(BridgeMacShowData), {116, 117, 118, 119}, {{116, 0x80}}, mac},
+};
+
+static std::string print(const RecordCase &c, Wire bytes)
+{
+    return printed([&] {
+        Output out;
+        c.print(out, bytes);
+    });
+}
+
+/// The items of the flag list in a text, on one line.
+static std::string flag_items(const std::string &text)
+{
+    const std::string label = "Flags: ";
+    std::istringstream lines(text.substr(text.find(label) + label.size()));
+    std::string items;
+    for (std::string line; std::getline(lines, line);) {
+        items += (items.empty() ? "" : " ") + line.substr(std::min(line.find_first_not_of(' '), line.size()));
+        if (!line.ends_with(',')) {
+            break;
+        }
+    }
+    return items;
+}
+
+TEST(Records, FieldsByTheirBytes)
+{
+    std::string text;
+    for (const RecordCase &c : record_cases) {
+        Wire bytes(c.size);
+        for (std::size_t i = 0; i < c.size; ++i) {
+            bytes[i] = static_cast<std::uint8_t>(i % 251 + 1);
+        }
+        for (const auto &[offset, value] : c.fixed) {
+            bytes[offset] = value;
+        }
+        text += std::string("== ") + c.name + "\n" + print(c, bytes) + "\n";
+    }
+    EXPECT_EQ(text, file_text("tests/screens/record-fields.txt"));
+}
+
+TEST(Records, FlagsByTheirBits)
+{
+    std::ostringstream text;
+    for (const RecordCase &c : record_cases) {
+        Wire all(c.size);
+        const std::string none = flag_items(print(c, all));
+        for (const std::size_t byte : c.flag_bytes) {
+            all[byte] = 0xff;
+            for (unsigned mask = 0x80; mask != 0; mask >>= 1) {
+                Wire bytes(c.size);
+                bytes[byte] = static_cast<std::uint8_t>(mask);
+                const std::string items = flag_items(print(c, bytes));
+                if (items != none) {
+                    text << c.name << ", byte " << byte << " 0x" << std::hex << std::setfill('0') << std::setw(2)
+                         << mask << std::dec << ": " << items << '\n';
+                }
+            }
+        }
+        text << c.name << ", all: " << flag_items(print(c, all)) << '\n';
+    }
+    EXPECT_EQ(text.str(), file_text("tests/screens/record-flags.txt"));
+}
+
+} // namespace l2fib
