@@ -89,8 +89,27 @@ static void mac(Output &out, Wire &bytes)
     zel_l2fib_mac_print_handler(out, 0, {bytes.data(), bytes.size()});
 }
 
-static const std::vector<std::size_t> uidb_flag_bytes = {105, 106, 107, 108, 109, 110, 111,
-                                                         112, 113, 114, 115, 116, 117, 118};
+enum UidbBits : bool { fields_only, by_bit };
+
+/// A uIDB entry that was read, with these flags.
+static RecordCase uidb_case(const char *name, std::uint32_t direction, UidbBits bits,
+                            std::initializer_list<UidbFlag> flags)
+{
+    RecordCase c{name, sizeof(UidbEntry), {}, {{0, 0}, {1, 0}, {2, 0}, {3, 0}}, uidb_entry(direction)};
+    for (std::size_t byte = offsetof(UidbEntry, flags); byte < offsetof(UidbEntry, unread_119); ++byte) {
+        if (bits == by_bit) {
+            c.flag_bytes.push_back(byte);
+        }
+        std::uint8_t value = 0;
+        for (const UidbFlag flag : flags) {
+            value |= flag.byte == byte ? flag.mask : std::uint8_t{0};
+        }
+        c.fixed.emplace_back(byte, value);
+    }
+    return c;
+}
+
+using Uidb = UidbEntry;
 
 static const std::vector<RecordCase> record_cases = {
     {"AC context", sizeof(AcShowData), {66, 67, 68, 69}, {{6, 0}, {7, 0}, {8, 0}, {9, 4}}, rp_detail(2)},
@@ -103,52 +122,38 @@ static const std::vector<RecordCase> record_cases = {
     {"bridge port context",
      sizeof(BridgePortContext),
      {32, 33, 34, 35, 76, 77, 78, 79, 80, 81, 82, 83},
-     {{32, 0xff},
-      {34, 0xff},
-      {77, 0xff},
-      {120, 0},
-      {121, 0},
-      {122, 0},
-      {123, 0},
-      {124, 0},
-      {125, 0},
-      {126, 0},
-      {127, 0}},
+     {{120, 0}, {121, 0}, {122, 0}, {123, 0}, {124, 0}, {125, 0}, {126, 0}, {127, 0}},
      rp_detail(13)},
     {"bridge MAC context", sizeof(BridgeMacContext), {8, 9, 10, 11}, {}, rp_detail(14)},
-    {"XID entry, AC", sizeof(XidEntry), {16, 17, 18, 19}, {{24, 0}, {25, 0}, {26, 0}, {27, 1}, {17, 0x02}}, xid_entry},
+    {"XID entry, AC", sizeof(XidEntry), {16, 17, 18, 19}, {{24, 0}, {25, 0}, {26, 0}, {27, 1}}, xid_entry},
     {"XID entry, bundle", sizeof(XidEntry), {}, {{24, 0}, {25, 0}, {26, 0}, {27, 2}}, xid_entry},
+    {"XID entry, bundle by flow", sizeof(XidEntry), {}, {{17, 0x22}, {24, 0}, {25, 0}, {26, 0}, {27, 2}}, xid_entry},
     {"XID entry, PW", sizeof(XidEntry), {16}, {{24, 0}, {25, 0}, {26, 0}, {27, 3}}, xid_entry},
+    {"XID entry, PW type 5", sizeof(XidEntry), {}, {{16, 0x60}, {24, 0}, {25, 0}, {26, 0}, {27, 4}}, xid_entry},
     {"bridge port entry", sizeof(Bport), {16, 17, 18, 19}, {}, bport},
-    {"uIDB entry, ingress",
-     sizeof(UidbEntry),
-     uidb_flag_bytes,
-     {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {105, 0x50}, {112, 0x03}, {113, 0x20}},
-     uidb_entry(1)},
-    {"uIDB entry, ingress, group selector set, LAG",
-     sizeof(UidbEntry),
-     uidb_flag_bytes,
-     {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {105, 0}, {117, 0x80}, {118, 0x80}},
-     uidb_entry(1)},
-    {"uIDB entry, egress",
-     sizeof(UidbEntry),
-     uidb_flag_bytes,
-     {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {105, 0x10}, {108, 0x20}, {110, 0x10}, {112, 0x03}, {117, 0}},
-     uidb_entry(2)},
-    {"uIDB entry, egress, group selector set",
-     sizeof(UidbEntry),
-     uidb_flag_bytes,
-     {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {117, 0x80}},
-     uidb_entry(2)},
+    {"bridge port entry, not virtual", sizeof(Bport), {}, {{2, 0}}, bport},
+    uidb_case("uIDB, ingress", 1, by_bit, {}),
+    uidb_case("uIDB, ingress to a bridge", 1, fields_only,
+              {Uidb::bd_lookup, Uidb::vpws_dest_pw, Uidb::cfm, Uidb::pre_tag_1_valid}),
+    uidb_case("uIDB, ingress to a PW", 1, fields_only, {Uidb::vpws_dest_pw, Uidb::vpws_dest_lag, Uidb::punt_cdp_main}),
+    uidb_case("uIDB, ingress to a LAG", 1, fields_only,
+              {Uidb::vpws_dest_lag, Uidb::bng_vpws_pw_l2tp, Uidb::punt_stp_1ad_main}),
+    uidb_case("uIDB, ingress to L2TP", 1, by_bit,
+              {Uidb::group_selector, Uidb::bng_vpws_pw_l2tp, Uidb::punt_stp_1d_main}),
+    uidb_case("uIDB, egress", 2, by_bit, {}),
+    uidb_case("uIDB, egress with everything", 2, by_bit,
+              {Uidb::group_selector, Uidb::cfm, Uidb::pre_tag_1_valid, Uidb::pre_tag_2_valid, Uidb::ipiw_mode,
+               Uidb::bng_l2tp_mode}),
     {"bridge HAL context", sizeof(BridgeHalContext) + sizeof(BridgeHalNpEntry), {4}, {}, bridge_hal},
-    {"bridge domain",
+    {"bridge domain", sizeof(BridgeDomainRecord), {0, 1, 2, 3}, {}, bridge_domain},
+    {"bridge domain, all flags",
      sizeof(BridgeDomainRecord),
-     {0, 1, 2, 3},
-     {{0, 0xff}, {1, 0xff}, {2, 0xff}, {3, 0xff}},
+     {},
+     {{0, 255}, {1, 255}, {2, 255}, {3, 255}},
      bridge_domain},
-    {"bridge member", sizeof(BridgeMemberRecord), {4, 5, 6, 7}, {{4, 0x80}}, bridge_member},
+    {"bridge member", sizeof(BridgeMemberRecord), {4, 5, 6, 7}, {}, bridge_member},
     {"bridge member, EVPN OLE", sizeof(BridgeMemberRecord), {}, {{4, 0x28}}, bridge_member},
-    {"MAC", sizeof(BridgeMacShowData), {116, 117, 118, 119}, {{116, 0x80}}, mac},
+    {"MAC", sizeof(BridgeMacShowData), {116, 117, 118, 119}, {}, mac},
 };
 
 static std::string print(const RecordCase &c, Wire bytes)
@@ -174,6 +179,14 @@ static std::string flag_items(const std::string &text)
     return items;
 }
 
+static Wire with_fixed(const RecordCase &c, Wire bytes)
+{
+    for (const auto &[offset, value] : c.fixed) {
+        bytes[offset] = value;
+    }
+    return bytes;
+}
+
 TEST(Records, FieldsByTheirBytes)
 {
     std::string text;
@@ -182,10 +195,7 @@ TEST(Records, FieldsByTheirBytes)
         for (std::size_t i = 0; i < c.size; ++i) {
             bytes[i] = static_cast<std::uint8_t>(i % 251 + 1);
         }
-        for (const auto &[offset, value] : c.fixed) {
-            bytes[offset] = value;
-        }
-        text += std::string("== ") + c.name + "\n" + print(c, bytes) + "\n";
+        text += std::string("== ") + c.name + "\n" + print(c, with_fixed(c, bytes)) + "\n";
     }
     EXPECT_EQ(text, file_text("tests/screens/record-fields.txt"));
 }
@@ -194,13 +204,14 @@ TEST(Records, FlagsByTheirBits)
 {
     std::ostringstream text;
     for (const RecordCase &c : record_cases) {
-        Wire all(c.size);
-        const std::string none = flag_items(print(c, all));
+        const Wire base = with_fixed(c, Wire(c.size));
+        const std::string none = flag_items(print(c, base));
+        Wire all = base;
         for (const std::size_t byte : c.flag_bytes) {
             all[byte] = 0xff;
             for (unsigned mask = 0x80; mask != 0; mask >>= 1) {
-                Wire bytes(c.size);
-                bytes[byte] = static_cast<std::uint8_t>(mask);
+                Wire bytes = base;
+                bytes[byte] = static_cast<std::uint8_t>(bytes[byte] | mask);
                 const std::string items = flag_items(print(c, bytes));
                 if (items != none) {
                     text << c.name << ", byte " << byte << " 0x" << std::hex << std::setfill('0') << std::setw(2)
@@ -208,7 +219,7 @@ TEST(Records, FlagsByTheirBits)
                 }
             }
         }
-        text << c.name << ", all: " << flag_items(print(c, all)) << '\n';
+        text << c.name << ", none: " << none << '\n' << c.name << ", all: " << flag_items(print(c, all)) << '\n';
     }
     EXPECT_EQ(text.str(), file_text("tests/screens/record-flags.txt"));
 }

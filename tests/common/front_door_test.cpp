@@ -85,6 +85,13 @@ TEST_F(FrontDoor, ShowDataThatEndsInsideTheContext)
     }
 }
 
+TEST_F(FrontDoor, ContextsThatAViewDoesNotReadMayBeMissing)
+{
+    EXPECT_EQ(print_internal(L2FIB_OBJTYPE_NHOP, L2FIB_VIEW_DETAIL, Bytes(1)).status, 0U);
+    EXPECT_EQ(print_internal(L2FIB_OBJTYPE_BRIDGE_PORT, L2FIB_VIEW_PRIVATE, Bytes(1)).status, 0U);
+    EXPECT_EQ(print_internal(L2FIB_OBJTYPE_BRIDGE_MAC, L2FIB_VIEW_PRIVATE, Bytes(1)).status, 0U);
+}
+
 TEST_F(FrontDoor, ObjectsWithoutAView)
 {
     const std::string detail = "zel_l2fib_print_internal_detail: Wrong L2FIB objtype 5 action 100";
