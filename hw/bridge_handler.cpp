@@ -121,15 +121,6 @@ bool BridgeWalk::take_feature_block_1()
     return true;
 }
 
-static StormControlConfig storm_control_config(const BridgeContext &bridge, const StormControlProfile &profile)
-{
-    const auto &features = bridge.features.features;
-    return {.limits = {{features.test(FeatureFlags::storm_control_broadcast), profile.rate[0]},
-                       {features.test(FeatureFlags::storm_control_multicast), profile.rate[1]},
-                       {features.test(FeatureFlags::storm_control_unknown_unicast), profile.rate[2]}},
-            .kbps = is_set(bridge.hal.flags, BridgeHalContext::storm_control_unit_kbps)};
-}
-
 /// The first NP's storm control stands for all of them.
 std::uint32_t BridgeWalk::print_storm_control_of_bridge()
 {
@@ -149,7 +140,10 @@ std::uint32_t BridgeWalk::print_storm_control_of_bridge()
         profiles[np].to_host();
     }
     if (has_storm_control(states[0])) {
-        print_storm_control(out_, level_ + 3, storm_control_config(*bridge_, profiles[0]), states[0], profiles[0], 0);
+        const auto &rate = profiles[0].rate;
+        const bool kbps = is_set(bridge_->hal.flags, BridgeHalContext::storm_control_unit_kbps);
+        const auto config = storm_control_config(bridge_->features, {rate[0], rate[1], rate[2]}, kbps);
+        print_storm_control(out_, level_ + 3, config, states[0], profiles[0], 0);
     }
     return 0;
 }

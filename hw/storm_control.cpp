@@ -65,6 +65,15 @@ static void zel_l2fib_print_storm_control_rows(Output &out, std::uint32_t level,
     }
 }
 
+StormControlConfig storm_control_config(const FeatureFlags &features, const std::int32_t (&rates)[storm_traffic_types],
+                                        bool kbps)
+{
+    return {.limits = {{features.features.test(FeatureFlags::storm_control_broadcast), rates[0]},
+                       {features.features.test(FeatureFlags::storm_control_multicast), rates[1]},
+                       {features.features.test(FeatureFlags::storm_control_unknown_unicast), rates[2]}},
+            .kbps = kbps};
+}
+
 bool has_storm_control(const StormControlState &state)
 {
     constexpr unsigned broadcast = 0;

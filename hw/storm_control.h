@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/output.h"
+#include "rp/feature_flags.h"
 #include "rp/storm_control_state.h"
 
 #include <algorithm>
@@ -34,6 +35,10 @@ struct StormControlConfig {
         return std::any_of(std::begin(limits), std::end(limits), [](const Limit &limit) { return limit.enabled; });
     }
 };
+
+/// The configuration by the enabled features, with the rates in the order of the traffic types.
+StormControlConfig storm_control_config(const FeatureFlags &features, const std::int32_t (&rates)[storm_traffic_types],
+                                        bool kbps);
 
 /// Whether an NP has applied storm control at all: the state for broadcast tells.
 bool has_storm_control(const StormControlState &state);

@@ -65,19 +65,12 @@ static std::uint32_t zel_l2fib_vpls_egress_print_handler(Output &out, std::uint3
     return status;
 }
 
-static StormControlConfig storm_control_config(const BridgePortContext &port)
-{
-    const auto &features = port.features.features;
-    return {.limits = {{features.test(FeatureFlags::storm_control_broadcast), port.broadcast_rate},
-                       {features.test(FeatureFlags::storm_control_multicast), port.multicast_rate},
-                       {features.test(FeatureFlags::storm_control_unknown_unicast), port.unknown_unicast_rate}},
-            .kbps = (port.storm_control_unit & BridgePortContext::storm_control_in_kbps) != 0};
-}
-
 static void print_ac_storm_control(Output &out, std::uint32_t level, const BridgePortContext &port, std::uint32_t np,
                                    StormControlProfile &profile)
 {
-    const StormControlConfig config = storm_control_config(port);
+    const bool kbps = (port.storm_control_unit & BridgePortContext::storm_control_in_kbps) != 0;
+    const StormControlConfig config = storm_control_config(
+        port.features, {port.broadcast_rate, port.multicast_rate, port.unknown_unicast_rate}, kbps);
     if (!config.any_enabled()) {
         out.line(level, "Storm Control not enabled");
     } else if (np >= std::size(port.storm_control)) {
