@@ -20,7 +20,6 @@ public:
 
     [[nodiscard]] bool is_null() const { return begin_ == nullptr; }
     [[nodiscard]] std::uint64_t size() const { return size_; }
-    [[nodiscard]] std::uint8_t *begin() const { return begin_; }
 
     [[nodiscard]] bool holds(std::uint64_t offset, std::uint64_t bytes) const
     {

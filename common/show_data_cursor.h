@@ -31,8 +31,7 @@ public:
 
     /// Records of several kinds as one piece, one kind behind the other: as many of each as `counts` says.
     template <ShowDataRecord... Records>
-    requires(sizeof...(Records) >
-             1) std::tuple<std::span<Records>...> take(std::convertible_to<std::uint32_t> auto... counts)
+    std::tuple<std::span<Records>...> take_together(std::convertible_to<std::uint32_t> auto... counts)
     {
         if (!claim(((std::uint64_t{sizeof(Records)} * static_cast<std::uint32_t>(counts)) + ...))) {
             return {};

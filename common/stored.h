@@ -100,8 +100,6 @@ class Packed
     }
 
 public:
-    static constexpr unsigned fields = field_count;
-
     [[nodiscard]] constexpr Bits get(unsigned field) const
     {
         return static_cast<Bits>(word.value() >> layout[field].start) & mask(layout[field]);

@@ -1,6 +1,7 @@
 #include "hw/ac_handler.h"
 
 #include "common/failure.h"
+#include "common/show_data_cursor.h"
 #include "hw/np.h"
 #include "hw/vpls_ac.h"
 #include "rp/names.h"
@@ -8,31 +9,13 @@
 namespace l2fib
 {
 
-/// The cross-connect entries of a plain AC: one for each NP that is printed, in their order.
-class PlainAcEntries
-{
-public:
-    explicit PlainAcEntries(ShowData block) : block_(block) {}
-
-    /// The next NP's entry, or null where the block ends before it does.
-    XidEntry *next()
-    {
-        auto *entry = block_.at<XidEntry>(offset_);
-        offset_ += sizeof(XidEntry);
-        return entry;
-    }
-
-private:
-    ShowData block_;
-    std::uint64_t offset_ = sizeof(PlainAcBlock);
-};
-
+/// One entry stands in the block for each NP that is printed, in their order.
 static std::uint32_t print_ingress(Output &out, std::uint32_t level, NpRange nps, std::uint32_t xid,
-                                   PlainAcEntries entries, const char *handler)
+                                   ShowDataCursor &cursor, const char *handler)
 {
     std::uint32_t status = 0;
     for (std::uint32_t np = nps.first; np < nps.end; ++np) {
-        XidEntry *entry = entries.next();
+        XidEntry *entry = cursor.take<XidEntry>();
         if (entry == nullptr) {
             return L2FIB_SHOW_ERR_DATA;
         }
@@ -45,11 +28,11 @@ static std::uint32_t print_ingress(Output &out, std::uint32_t level, NpRange nps
 
 /// Each NP stands one level deeper than the one before it, and only the last one's failure is reported.
 static std::uint32_t print_egress(Output &out, std::uint32_t level, NpRange nps, std::uint32_t xid,
-                                  PlainAcEntries entries, const char *handler)
+                                  ShowDataCursor &cursor, const char *handler)
 {
     std::uint32_t status = 0;
     for (std::uint32_t np = nps.first; np < nps.end; ++np, ++level) {
-        XidEntry *entry = entries.next();
+        XidEntry *entry = cursor.take<XidEntry>();
         if (entry == nullptr) {
             return L2FIB_SHOW_ERR_DATA;
         }
@@ -64,9 +47,11 @@ static std::uint32_t print_plain_ac(Output &out, std::uint32_t level, std::uint3
                                     ShowData block, const char *handler)
 {
     const NpRange nps = np_range(ac.context.requested_np, ac.np_count.from_wire());
+    ShowDataCursor cursor{block};
+    cursor.take<PlainAcBlock>();
     switch (direction) {
-    case L2FIB_INGRESS: return print_ingress(out, level, nps, ac.context.xid, PlainAcEntries{block}, handler);
-    case L2FIB_EGRESS: return print_egress(out, level, nps, ac.context.xid, PlainAcEntries{block}, handler);
+    case L2FIB_INGRESS: return print_ingress(out, level, nps, ac.context.xid, cursor, handler);
+    case L2FIB_EGRESS: return print_egress(out, level, nps, ac.context.xid, cursor, handler);
     default: return L2FIB_SHOW_ERR_DATA;
     }
 }

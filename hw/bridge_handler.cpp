@@ -105,7 +105,7 @@ std::uint32_t BridgeWalk::print_hardware(std::uint32_t direction)
 
 bool BridgeWalk::take_feature_block_1()
 {
-    const auto [block, nps] = cursor_.take<BridgeFeatureBlock1, BridgeFeatureBlock1Np>(1, np_count());
+    const auto [block, nps] = cursor_.take_together<BridgeFeatureBlock1, BridgeFeatureBlock1Np>(1, np_count());
     if (block.empty()) {
         return false;
     }
@@ -124,7 +124,8 @@ bool BridgeWalk::take_feature_block_1()
 /// The first NP's storm control stands for all of them.
 std::uint32_t BridgeWalk::print_storm_control_of_bridge()
 {
-    const auto [states, stored_profiles] = cursor_.take<StormControlState, StormControlProfile>(np_count(), np_count());
+    const auto [states, stored_profiles] =
+        cursor_.take_together<StormControlState, StormControlProfile>(np_count(), np_count());
     if (states.empty()) {
         return cut_short();
     }

@@ -74,7 +74,7 @@ static void print_paths(Output &out, std::uint32_t level, const Layer3Paths &pat
 static void print_vpls_ingress(Output &out, std::uint32_t level, ShowDataCursor &cursor, BridgePortContext &port,
                                WorkingCopies<StormControlProfile> &profiles, std::uint32_t np_count)
 {
-    const auto [ingress, stored_profiles] = cursor.take<PwIngressBlock, StormControlProfile>(1, np_count);
+    const auto [ingress, stored_profiles] = cursor.take_together<PwIngressBlock, StormControlProfile>(1, np_count);
     if (ingress.empty()) {
         return;
     }

@@ -48,7 +48,7 @@ static std::uint32_t zel_l2fib_vpls_egress_print_handler(Output &out, std::uint3
 {
     constexpr std::uint8_t bports_present = 0x01; // of the first byte; the ingress side asks for any bit of the word
     ShowDataCursor cursor{block};
-    const auto [head, records] = cursor.take<VplsEgressBlock, VplsNpRecord>(1, np_count);
+    const auto [head, records] = cursor.take_together<VplsEgressBlock, VplsNpRecord>(1, np_count);
     if (head.empty()) {
         return short_data(out, level, block.size(), cursor.end());
     }
@@ -86,7 +86,7 @@ static std::uint32_t zel_l2fib_vpls_ingress_print_handler(Output &out, std::uint
 {
     ShowDataCursor cursor{block};
     const auto [head, records, trailer] =
-        cursor.take<VplsIngressBlock, VplsIngressNpRecord, VplsIngressTrailer>(1, np_count, 1);
+        cursor.take_together<VplsIngressBlock, VplsIngressNpRecord, VplsIngressTrailer>(1, np_count, 1);
     if (head.empty()) {
         return short_data(out, level, block.size(), cursor.end());
     }
