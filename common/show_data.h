@@ -1,7 +1,9 @@
 // Checked access to show data. A record is reached through here or not at all.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <type_traits>
 
@@ -19,6 +21,7 @@ public:
     ShowData(std::uint8_t *bytes, std::uint64_t size) : begin_(bytes), size_(bytes == nullptr ? 0 : size) {}
 
     [[nodiscard]] bool is_null() const { return begin_ == nullptr; }
+    [[nodiscard]] std::uint8_t *bytes() const { return begin_; }
     [[nodiscard]] std::uint64_t size() const { return size_; }
 
     [[nodiscard]] bool holds(std::uint64_t offset, std::uint64_t bytes) const
@@ -47,11 +50,31 @@ public:
         return !is_null() && holds(offset, 0) ? ShowData{begin_ + offset, size_ - offset} : ShowData{};
     }
 
+    /// The first bytes, all of them where there are fewer.
+    [[nodiscard]] ShowData first(std::uint64_t size) const { return {begin_, std::min(size, size_)}; }
+
+    /// The string at an offset, or null unless it ends inside the show data.
+    [[nodiscard]] const char *string_at(std::uint64_t offset) const
+    {
+        const ShowData text = from(offset);
+        return text.size() != 0 && std::memchr(text.begin_, '\0', text.size()) != nullptr
+                   ? reinterpret_cast<const char *>(text.begin_)
+                   : nullptr;
+    }
+
     /// A record that a caller of the library vouches for, of a buffer whose size nobody compares.
     template <ShowDataRecord Record, class Byte>
-    [[nodiscard]] static Record &promised(Byte *bytes)
+    [[nodiscard]] static Record &promised(Byte *bytes, std::uint64_t offset = 0)
     {
-        return *reinterpret_cast<Record *>(bytes);
+        return *reinterpret_cast<Record *>(bytes + offset);
+    }
+
+    /// Records that a caller of the library vouches for.
+    template <ShowDataRecord Record>
+    [[nodiscard]] static std::span<Record> promised_array(std::uint8_t *bytes, std::uint64_t offset,
+                                                          std::uint32_t count)
+    {
+        return {&promised<Record>(bytes, offset), count};
     }
 
 private:

@@ -1,10 +1,161 @@
-// The records of an inconsistency report.
+// The printer of inconsistency reports: streams of type-length-value records that the producer has composed.
+#include "common/names.h"
+#include "common/output.h"
+#include "common/show_data.h"
 #include "zel_l2fib/show.h"
 
-uint32_t zel_l2fib_print_tlv(uint32_t /*level*/, uint8_t **cursor, uint64_t *remaining)
+namespace l2fib
 {
+
+/// A record begins so; its value follows: a big-endian number, or a string with its terminator.
+struct TlvHeader {
+    U8 type;
+    U8 length; // of the whole record
+    U8 verdict;
+};
+
+enum TlvType : std::uint8_t {
+    tlv_number = 1,
+    tlv_hex_word = 2,
+    tlv_string = 3,
+    tlv_end_of_line = 4,
+    tlv_end_of_stream = 5,
+    tlv_truncated = 6, // the producer ran out of room here
+};
+
+constexpr std::uint8_t no_verdict = 1;
+
+static const char *verdict_name(std::uint32_t verdict)
+{
+    constexpr std::uint32_t ok = 2;
+    constexpr const char *names[] = {"OK", "Warning", "Error"};
+    return name_of(names, verdict - ok, "Invalid");
+}
+
+/// A report as far as it is printed: lines of values, each with the last verdict that one of its values carried.
+class Report
+{
+public:
+    Report(Output &out, std::uint32_t level) : out_(out), level_(level) {}
+
+    template <class Value>
+    void value(std::uint8_t verdict, Format<std::type_identity_t<Value>> format, Value value)
+    {
+        if (verdict != no_verdict) {
+            verdict_ = verdict;
+        }
+        if (!line_is_open_) {
+            column_ = advance(out_.indent(level_));
+            line_is_open_ = true;
+        }
+        column_ += advance(out_.text<Value>(format, value));
+    }
+
+    void end_line()
+    {
+        constexpr std::uint64_t verdict_column = 73;
+        if (verdict_ != no_verdict) {
+            for (; column_ < verdict_column; ++column_) {
+                out_.text(".");
+            }
+            out_.text(" %s", verdict_name(verdict_));
+            verdict_ = no_verdict;
+        }
+        out_.text("\n");
+        line_is_open_ = false;
+        column_ = 0;
+    }
+
+    /// Why the report ends here, on a line of its own. Returns the status.
+    template <class... Args>
+    std::uint32_t error(Format<std::type_identity_t<Args>...> format, const Args &...args)
+    {
+        if (line_is_open_) {
+            out_.text("\n");
+        }
+        out_.first_line<Args...>(level_, format, args...);
+        return L2FIB_SHOW_ERR_DATA;
+    }
+
+private:
+    static std::uint64_t advance(int printed) { return static_cast<std::uint64_t>(printed); }
+
+    Output &out_;
+    std::uint32_t level_;
+    std::uint64_t column_ = 0;
+    std::uint8_t verdict_ = no_verdict;
+    bool line_is_open_ = false;
+};
+
+/// Prints a record of a known type. False when its value does not lie inside it.
+static bool print_record(Report &report, const TlvHeader &header, ShowData record)
+{
+    switch (header.type.value()) {
+    case tlv_number:
+    case tlv_hex_word: {
+        const auto *number = record.at<U32>(sizeof header);
+        if (number == nullptr) {
+            return false;
+        }
+        if (header.type == tlv_number) {
+            report.value(header.verdict, "%u ", number->from_wire());
+        } else {
+            report.value(header.verdict, "%08x ", number->from_wire());
+        }
+        return true;
+    }
+    case tlv_string: {
+        const char *string = record.string_at(sizeof header);
+        if (string == nullptr) {
+            return false;
+        }
+        report.value(header.verdict, "%s ", string);
+        return true;
+    }
+    case tlv_end_of_line: report.end_line(); return true;
+    default: return true;
+    }
+}
+
+/// Prints records up to the end of the stream, and leaves `rest` at what follows it or at the record in error.
+static std::uint32_t print_stream(Report &report, ShowData &rest)
+{
+    constexpr const char *invalid_size = "ERROR: Invalid TLV size received!\n";
+    bool ended = false;
+    while (!ended && rest.size() != 0) {
+        const std::uint8_t type = *rest.at<U8>(0);
+        if (type == tlv_truncated) {
+            return report.error("ERROR: Output has been truncated!\n");
+        }
+        const auto *header = rest.at<TlvHeader>(0);
+        if (header == nullptr || header->length < sizeof *header || header->length > rest.size()) {
+            return report.error(invalid_size);
+        }
+        if (type < tlv_number || type > tlv_end_of_stream) {
+            return report.error("ERROR: Unrecognized TLV type: %d\n", type);
+        }
+        if (!print_record(report, *header, rest.first(header->length))) {
+            return report.error(invalid_size);
+        }
+        rest = rest.from(header->length);
+        ended = type == tlv_end_of_stream;
+    }
+    return 0;
+}
+
+} // namespace l2fib
+
+uint32_t zel_l2fib_print_tlv(uint32_t level, uint8_t **cursor, uint64_t *remaining)
+{
+    using namespace l2fib;
     if (cursor == nullptr || remaining == nullptr || (*cursor == nullptr && *remaining != 0)) {
         return L2FIB_SHOW_ERR_ARGS;
     }
-    return 0;
+    Output out;
+    Report report{out, level};
+    ShowData rest{*cursor, *remaining};
+    const std::uint32_t status = print_stream(report, rest);
+    *cursor = rest.bytes();
+    *remaining = rest.size();
+    return status;
 }

@@ -149,9 +149,12 @@ uint32_t zel_l2fib_trident_print_internal_private(uint32_t /*level*/, uint32_t o
 
 uint32_t zel_l2fib_trident_print_internal_inconsistent(uint32_t level, uint32_t objtype, uint32_t /*card_type*/,
                                                        uint32_t /*direction*/, uint32_t /*view_flags*/,
-                                                       uint8_t * /*show_data*/, uint64_t /*size*/)
+                                                       uint8_t *show_data, uint64_t size)
 {
     using namespace l2fib;
+    if (objtype == L2FIB_OBJTYPE_AC) {
+        return zel_l2fib_print_tlv(level + 1, &show_data, &size);
+    }
     Output out;
     out.line(level, "Hardware object %s not handled", objtype_name(objtype));
     return 0;
