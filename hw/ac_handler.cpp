@@ -65,8 +65,7 @@ std::uint32_t zel_l2fib_ac_print_handler(Output &out, std::uint32_t level, std::
     if (ac == nullptr) {
         return L2FIB_SHOW_ERR_DATA;
     }
-    const auto sized_nps = static_cast<std::uint8_t>(ac->np_count.from_wire());
-    const ShowData block = data.from(offsetof(AcShowData, context) + zel_l2fib_data_size(L2FIB_OBJTYPE_AC, sized_nps));
+    const ShowData block = data.from(ac->hardware_offset());
     if (block.is_null()) {
         return L2FIB_SHOW_ERR_DATA;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/stored.h"
+#include "zel_l2fib/show.h"
 
 #include <cstddef>
 
@@ -75,6 +76,13 @@ constexpr std::uint64_t np_entry_size = 20;
 struct AcShowData {
     U16 np_count; // stays big-endian; only its low byte counts in sizes
     AcContext context;
+
+    /// Where the hardware's part begins, that of a VPLS AC with its bridge port.
+    [[nodiscard]] std::uint64_t hardware_offset() const
+    {
+        return offsetof(AcShowData, context) +
+               zel_l2fib_data_size(L2FIB_OBJTYPE_AC, static_cast<std::uint8_t>(np_count.from_wire()));
+    }
 };
 
 } // namespace l2fib

@@ -19,8 +19,7 @@ static std::uint64_t private_ac_end(ShowData data)
     if (ac == nullptr || ac->context.service.from_wire() != service_vpls) {
         return sizeof(AcShowData);
     }
-    const auto np_count = static_cast<std::uint8_t>(ac->np_count.from_wire());
-    return offsetof(AcShowData, context) + zel_l2fib_data_size(L2FIB_OBJTYPE_AC, np_count) + sizeof(BridgePortContext);
+    return ac->hardware_offset() + sizeof(BridgePortContext);
 }
 
 static std::uint64_t next_hop_end(ShowData data)

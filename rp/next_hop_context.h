@@ -30,6 +30,8 @@ struct NextHopContext {
     U32 feci_comp_id;    // 25820
     U32 ecd_data_length; // 25824
     Bytes<52> unread_25828;
+
+    void to_host();
 };
 static_assert(sizeof(NextHopContext) == 25880 && offsetof(NextHopContext, ecd_data_length) == 25824);
 
@@ -38,6 +40,8 @@ struct IgpPath {
     PathDescriptor unread_4[2];
     PathDescriptor primary; // 20
     PathDescriptor backup;  // 28
+
+    void to_host();
 };
 static_assert(sizeof(IgpPath) == 36);
 

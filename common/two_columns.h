@@ -1,0 +1,49 @@
+// Values in two columns: how the private view has the fields of a context.
+#pragma once
+
+#include "common/flags.h"
+#include "common/output.h"
+
+namespace l2fib
+{
+
+/// Values go left and right in turn. Their labels carry their own padding, so that they stand in the code as on the
+/// screen.
+class TwoColumns
+{
+public:
+    /// `gap` is what lies between the columns, tabs mostly.
+    TwoColumns(Output &out, const char *gap) : out_(out), gap_(gap) {}
+
+    template <class... Args>
+    void item(Format<std::type_identity_t<Args>...> format, const Args &...args)
+    {
+        out_.text<Args...>(format, args...);
+        out_.text("%s", is_right_ ? "\n" : gap_);
+        is_right_ = !is_right_;
+    }
+
+    /// A value that has the line to itself.
+    template <class... Args>
+    void line(Format<std::type_identity_t<Args>...> format, const Args &...args)
+    {
+        out_.text<Args...>(format, args...);
+        out_.text("\n");
+    }
+
+    /// All flags of a table, each as 0 or 1.
+    template <std::size_t size, class Word>
+    void flags(const FlagTable<size> &table, const Word &word)
+    {
+        for (const Flag &flag : table.rows) {
+            item("%s: %d", flag.text, is_set(word, flag.number) ? 1 : 0);
+        }
+    }
+
+private:
+    Output &out_;
+    const char *gap_;
+    bool is_right_ = false;
+};
+
+} // namespace l2fib

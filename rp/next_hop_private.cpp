@@ -1,0 +1,68 @@
+#include "common/show_data.h"
+#include "common/two_columns.h"
+#include "rp/next_hop_context.h"
+#include "rp/private.h"
+
+namespace l2fib
+{
+
+void NextHopContext::to_host()
+{
+    l2fib::to_host(unread_4, l2vpn_ldi_index, num_paths, unread_22856, unread_25804, unread_25808, unread_25812,
+                   feci_comp_id, ecd_data_length);
+}
+
+void IgpPath::to_host()
+{
+    l2fib::to_host(state, unread_4, primary, backup);
+}
+
+static void print_descriptor(Output &out, const PathDescriptor &path)
+{
+    TwoColumns values{out, "\t "};
+    values.item("is lag            : %d", path.flags.get(PathDescriptor::lag));
+    values.item("sfp/lag id      : %d ", path.sfp_or_lagid);
+    values.item("use sat lag hash  : %d", path.flags.get(PathDescriptor::use_sat_lag_hash));
+    values.item("sat lag hash    : %d", path.sat_lag_hash);
+    values.item("is ifh valid      : %d", path.flags.get(PathDescriptor::ifhandle_valid));
+    values.item("ifhandle        : 0x%08x", path.ifhandle);
+}
+
+static void print_path(Output &out, const IgpPath &path)
+{
+    const bool backup_valid = path.state.flags.test(PathState::backup_valid);
+    out.text("\nIGP Path\n--------\n");
+    TwoColumns values{out, "\t "};
+    values.item("is unresolved     : %d", path.state.flags.get(PathState::unresolved));
+    values.item("is bkup valid   : %d", backup_valid ? 1 : 0);
+
+    out.text("\nPrimary Path\n------------\n");
+    print_descriptor(out, path.primary);
+    if (backup_valid) {
+        out.text("\nBackup Path\n-----------\n");
+        print_descriptor(out, path.backup);
+    }
+}
+
+void print_next_hop_private(Output &out, std::uint8_t *show_data)
+{
+    auto &next_hop = ShowData::promised<NextHopContext>(show_data);
+    next_hop.to_host();
+
+    out.text("\n\nNext hop context(l3fib)\n-----------------\n");
+    TwoColumns values{out, "\t "};
+    values.line("l2vpn ldi index   : %d ", next_hop.l2vpn_ldi_index);
+    values.item("recursion level   : %d", next_hop.recursion_level);
+    values.item("num paths       : %d", next_hop.num_paths);
+    values.item("ecd version       : %d", next_hop.ecd_version);
+    values.item("ecd type        : %d", next_hop.ecd_type);
+    values.item("feci comp id      : %d", next_hop.feci_comp_id);
+    values.item("ecd data length : %d", next_hop.ecd_data_length);
+
+    for (IgpPath &path : ShowData::promised_array<IgpPath>(show_data, sizeof(NextHopContext), next_hop.num_paths)) {
+        path.to_host();
+        print_path(out, path);
+    }
+}
+
+} // namespace l2fib
