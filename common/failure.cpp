@@ -31,6 +31,18 @@ std::uint32_t null_show_data(Output &out, const char *function, std::uint32_t ob
     return L2FIB_SHOW_ERR_ARGS;
 }
 
+std::uint32_t null_summary(Output &out, const char *function)
+{
+    out.text("%s: NULL show data \n", function);
+    return L2FIB_SHOW_ERR_ARGS;
+}
+
+std::uint32_t wrong_summary_size(Output &out, const char *function, std::uint64_t size)
+{
+    out.text("%s: Showdata size wrong %d \n", function, static_cast<std::uint32_t>(size));
+    return L2FIB_SHOW_ERR_ARGS;
+}
+
 std::uint32_t wrong_objtype(Output &out, const char *function, std::uint32_t objtype)
 {
     out.text("%s: Wrong L2FIB objtype %d action %d", function, objtype, action_wrong_objtype);

@@ -20,6 +20,12 @@ std::uint32_t null_entry(Output &out, std::uint32_t level, const char *function)
 /// An RP view that was called without show data.
 std::uint32_t null_show_data(Output &out, const char *function, std::uint32_t objtype);
 
+/// A summary that was called without show data.
+std::uint32_t null_summary(Output &out, const char *function);
+
+/// A summary whose show data ends early.
+std::uint32_t wrong_summary_size(Output &out, const char *function, std::uint64_t size);
+
 /// An object that a view does not show. Opens no line, and is no failure: the status is 0.
 std::uint32_t wrong_objtype(Output &out, const char *function, std::uint32_t objtype);
 

@@ -44,6 +44,17 @@ std::uint32_t hand_over(std::uint32_t level, const ViewRequest &request)
                                                   request.view_flags, request.show_data, request.size);
 }
 
+std::uint32_t hand_over_summary(Output &out, std::uint32_t node_id, std::uint32_t hw_arg, ShowData hardware_part,
+                                SummarySlot slot)
+{
+    fill_hal_print();
+    if (!card_is_supported(out, node_id)) {
+        return 0;
+    }
+    const auto print = zel_l2fib_hal_print[zel_l2fib_get_cardtype(node_id)].*slot;
+    return print == nullptr ? 0 : print(hw_arg, hardware_part.bytes(), hardware_part.size());
+}
+
 } // namespace l2fib
 
 uint32_t zel_l2fib_get_cardtype(uint32_t node_id)

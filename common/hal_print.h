@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/output.h"
+#include "common/show_data.h"
 #include "zel_l2fib/show.h"
 
 #include <optional>
@@ -30,5 +31,12 @@ void fill_hal_print();
 
 /// Prints the hardware's part of an object below the RP's: nothing when no view is entered for the card.
 std::uint32_t hand_over(std::uint32_t level, const ViewRequest &request);
+
+/// The slot of a platform summary.
+using SummarySlot = uint32_t (*zel_l2fib_hal_print_row::*)(uint32_t hw_arg, uint8_t *show_data, uint64_t size);
+
+/// Prints the hardware's part of a platform summary below the RP's, as hand_over does, after refilling the table.
+std::uint32_t hand_over_summary(Output &out, std::uint32_t node_id, std::uint32_t hw_arg, ShowData hardware_part,
+                                SummarySlot slot);
 
 } // namespace l2fib

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <safe_mem_lib.h>
 #include <type_traits>
 
 namespace l2fib
@@ -35,5 +36,16 @@ public:
 private:
     Record *records_;
 };
+
+/// A record in host order, apart from the show data that it lies in.
+template <class Record>
+Record private_copy(const Record &received)
+{
+    Record copy;
+    memset_s(&copy, sizeof copy, 0, sizeof copy);
+    std::memcpy(&copy, &received, sizeof copy);
+    copy.to_host();
+    return copy;
+}
 
 } // namespace l2fib
