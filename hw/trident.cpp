@@ -7,6 +7,7 @@
 #include "hw/bridge_handler.h"
 #include "hw/mac_handler.h"
 #include "hw/pw_handler.h"
+#include "hw/resource.h"
 #include "platform/platform.h"
 #include "rp/ac_context.h"
 #include "rp/names.h"
@@ -36,12 +37,14 @@ static const char *service_of_ac(ShowData data)
 }
 
 constexpr const char *detail_view = "zel_l2fib_trident_print_internal_detail";
+constexpr const char *private_view = "zel_l2fib_trident_print_internal_private";
 
-/// Reports an object whose handler failed. Returns the status.
-static std::uint32_t report_failure(Output &out, std::uint32_t level, std::uint32_t objtype, std::uint32_t status)
+/// Reports an object whose handler failed; the line of some is ended, and of others left open. Returns the status.
+static std::uint32_t report_failure(Output &out, std::uint32_t level, const char *view, std::uint32_t objtype,
+                                    std::uint32_t status, const char *line_end = "")
 {
     if (status != 0) {
-        out.line(level, "%s: print handler failed for objtype %d : %s", detail_view, objtype, status_text(status));
+        out.line(level, "%s: print handler failed for objtype %d : %s%s", view, objtype, status_text(status), line_end);
     }
     return status;
 }
@@ -74,7 +77,7 @@ static std::uint32_t print_pw(Output &out, std::uint32_t level, std::uint32_t di
         }
     }
     const std::uint32_t status = zel_l2fib_pw_print_handler(out, level, direction, data);
-    return report_failure(out, level, L2FIB_OBJTYPE_MPLS, status);
+    return report_failure(out, level, detail_view, L2FIB_OBJTYPE_MPLS, status);
 }
 
 /// A bridge without show data is its handler's to report; one with some begins with the HAL's context.
@@ -82,16 +85,29 @@ static std::uint32_t print_bridge(Output &out, std::uint32_t level, std::uint32_
 {
     const std::uint32_t status = data.is_null() ? zel_l2fib_brg_print_handler(out, level, direction, data)
                                                 : print_bridge_with_hal_context(out, level, direction, data);
-    report_failure(out, level + 1, L2FIB_OBJTYPE_BRIDGE, status);
-    if (status != 0) {
-        out.text("\n"); // the one failure whose line is ended
-    }
-    return status;
+    return report_failure(out, level + 1, detail_view, L2FIB_OBJTYPE_BRIDGE, status, "\n");
 }
 
 static std::uint32_t print_mac(Output &out, std::uint32_t level, ShowData data)
 {
-    return report_failure(out, level, L2FIB_OBJTYPE_BRIDGE_MAC, zel_l2fib_mac_print_handler(out, level, data));
+    const std::uint32_t status = zel_l2fib_mac_print_handler(out, level, data);
+    return report_failure(out, level, detail_view, L2FIB_OBJTYPE_BRIDGE_MAC, status);
+}
+
+static std::uint32_t print_received_resources(Output &out, std::uint32_t level, ShowData data)
+{
+    const auto *head = data.at<const ResourceShowData>(0);
+    if (head != nullptr) {
+        return zel_l2fib_trident_print_resource(out, level, data.from(sizeof *head).first(head->length.from_wire()));
+    }
+    return data.is_null() ? zel_l2fib_trident_print_resource(out, level, data)
+                          : short_data(out, level, data.size(), sizeof *head);
+}
+
+static std::uint32_t print_resources(Output &out, std::uint32_t level, ShowData data)
+{
+    const std::uint32_t status = print_received_resources(out, level, data);
+    return report_failure(out, level, private_view, L2FIB_OBJTYPE_RSRC_MON, status, "\n");
 }
 
 } // namespace l2fib
@@ -133,13 +149,14 @@ uint32_t zel_l2fib_trident_print_internal_detail(uint32_t level, uint32_t objtyp
     }
 }
 
-uint32_t zel_l2fib_trident_print_internal_private(uint32_t /*level*/, uint32_t objtype, uint32_t /*card_type*/,
-                                                  uint32_t /*direction*/, uint32_t /*view_flags*/,
-                                                  uint8_t * /*show_data*/, uint64_t /*size*/)
+uint32_t zel_l2fib_trident_print_internal_private(uint32_t level, uint32_t objtype, uint32_t /*card_type*/,
+                                                  uint32_t /*direction*/, uint32_t /*view_flags*/, uint8_t *show_data,
+                                                  uint64_t size)
 {
     using namespace l2fib;
     Output out;
     switch (objtype) {
+    case L2FIB_OBJTYPE_RSRC_MON: return print_resources(out, level, {show_data, size});
     case L2FIB_OBJTYPE_AC:
     case L2FIB_OBJTYPE_MPLS:
     case L2FIB_OBJTYPE_BRIDGE: return 0; // the RP's context is all there is

@@ -1,0 +1,34 @@
+// The statistics of an NP's MAC scans.
+#pragma once
+
+#include "common/output.h"
+#include "common/stored.h"
+
+#include <cstddef>
+
+namespace l2fib
+{
+
+constexpr unsigned mac_scan_events = 8;
+constexpr unsigned mac_scan_states = 13;
+
+struct MacScan {
+    U32 events[mac_scan_events];
+    U32 states[mac_scan_states];    //  32
+    U32 sent[mac_scan_states];      //  84  requests, by state
+    U32 sent_errors;                // 136
+    U32 responses[mac_scan_states]; // 140  by state
+    U32 response_errors;            // 192
+    U32 responses_to_freed;         // 196  to requests that were given up
+
+    void to_host()
+    {
+        l2fib::to_host(events, states, sent, sent_errors, responses, response_errors, responses_to_freed);
+    }
+};
+static_assert(sizeof(MacScan) == 200 && offsetof(MacScan, responses) == 140);
+
+/// What has been counted so far; counts of 0 are left out.
+void print_mac_scan(Output &out, const MacScan &scan);
+
+} // namespace l2fib

@@ -1,0 +1,198 @@
+#include "hw/resource.h"
+
+#include "common/failure.h"
+#include "common/flags.h"
+#include "common/formatters.h"
+#include "common/working_copies.h"
+
+#include <iterator>
+#include <string_view>
+
+namespace l2fib
+{
+
+static constexpr const char *operation_names[] = {"Set", "Modify", "Clear", "Get", "Get Info", "Delete All"};
+static_assert(std::size(operation_names) == resource_operations);
+enum Operation : unsigned { modify = 1, get = 3, delete_all = 5 };
+
+struct ResourceType {
+    const char *name;
+    std::uint32_t operations = all_flags; ///< those whose requests are counted, by bit
+    bool has_entries = true;              ///< whether the entries in use are known
+};
+
+static constexpr ResourceType types[] = {
+    {"XID"},
+    {"BRIDGE"},
+    {"STATIC MAC"},
+    {"BRIDGE PORT"},
+    {"UIDB", all_flags, false},
+    {"VPLS PW STATS", all_flags_but(modify) & all_flags_but(get) & all_flags_but(delete_all), false},
+    {"ISID"},
+    {"L2TP"},
+    {"DHCP"},
+    {"MSTI_ESI"},
+    {"IPV6 L2TPV3"},
+    {"VNI INFO"},
+    {"EVPN_OLE"},
+};
+static_assert(std::size(types) == resource_types);
+
+constexpr const char *rule = "              ---------------------------------------------\n";
+
+/// The names of the operations above their columns, and "T/F" under each. A name of ten letters makes its column one
+/// wider than the others.
+static void print_columns(Output &out)
+{
+    constexpr int width = 11;
+    out.text("%13s ", "");
+    for (const char *name : operation_names) {
+        const int pad = (width - static_cast<int>(std::string_view{name}.size())) / 2;
+        out.text("%*c%-*s ", pad, ' ', width - pad, name);
+    }
+    out.text("   In use\n");
+
+    out.text("%13s ", "");
+    for (unsigned operation = 0; operation < resource_operations; ++operation) {
+        out.text("    T/F     ");
+    }
+    out.text("    T/Max\n");
+}
+
+/// The sums of the columns, in the widths of the columns.
+struct ColumnTotal {
+    std::uint32_t t_count = 0;
+    std::uint32_t f_count = 0;
+    std::uint64_t time = 0;
+};
+
+static void print_counts(Output &out, const ResourceType &type, const ResourceUse &use,
+                         ColumnTotal (&totals)[resource_operations])
+{
+    out.text("%13s ", type.name);
+    for (unsigned i = 0; i < resource_operations; ++i) {
+        const ResourceOperation &operation = use.operations[i];
+        if (!is_set(type.operations, i)) {
+            out.text("    -/-     ");
+            continue;
+        }
+        out.text("%5d/%-5d ", operation.t_count, operation.f_count);
+        totals[i].t_count += operation.t_count;
+        totals[i].f_count += operation.f_count;
+    }
+    if (type.has_entries) {
+        out.text("%5d/%-6d\n", use.in_use, use.maximum);
+    } else {
+        out.text("    -/-\n");
+    }
+}
+
+/// Learned MACs are counted but not programmed.
+static void print_mac_counts(Output &out, std::uint32_t total_macs, U32 maximum)
+{
+    out.text("%13s ", "TOTAL MAC");
+    out.text("    -/-    ");
+    for (unsigned operation = 1; operation < resource_operations; ++operation) {
+        out.text("     -/-    ");
+    }
+    out.text("%6d/%-6d\n", total_macs, maximum);
+}
+
+static void print_count_totals(Output &out, const ColumnTotal (&totals)[resource_operations])
+{
+    out.text("%13s ", "");
+    for (unsigned operation = 0; operation < resource_operations; ++operation) {
+        out.text("----------- ");
+    }
+    out.text("\n%13s ", "Total");
+    for (const ColumnTotal &total : totals) {
+        out.text("%5d/%-5d ", total.t_count, total.f_count);
+    }
+    out.text("\n\n");
+}
+
+/// With room for "59 m 59 s", without its closing blank.
+static void print_time(Output &out, std::uint64_t time)
+{
+    out.text("%11s", elapsed_text<10>(time));
+}
+
+static void print_times(Output &out, const ResourceType &type, const ResourceUse &use,
+                        ColumnTotal (&totals)[resource_operations])
+{
+    out.text("%13s ", type.name);
+    for (unsigned i = 0; i < resource_operations; ++i) {
+        print_time(out, use.operations[i].time);
+        totals[i].time += use.operations[i].time;
+    }
+    out.text("\n");
+}
+
+static void print_time_totals(Output &out, const ColumnTotal (&totals)[resource_operations])
+{
+    out.text("\n%13s ", "Total");
+    for (const ColumnTotal &total : totals) {
+        print_time(out, total.time);
+    }
+    out.text("\n");
+}
+
+static void print_np(Output &out, std::uint32_t np, const ResourceData &resources, std::uint32_t total_macs)
+{
+    ColumnTotal totals[resource_operations];
+    out.text("\n"
+             "                     Hardware Resource Summary - NP%d\n",
+             np);
+    out.text("%s", rule);
+    print_columns(out);
+    for (unsigned type = 0; type < resource_types; ++type) {
+        print_counts(out, types[type], resources.types[type].nps[np], totals);
+    }
+    print_mac_counts(out, total_macs, resources.types[resource_static_mac].nps[np].maximum);
+    print_count_totals(out, totals);
+
+    out.text("                     Hardware Performance Summary \n");
+    out.text("%s", rule);
+    for (unsigned type = 0; type < resource_types; ++type) {
+        print_times(out, types[type], resources.types[type].nps[np], totals);
+    }
+    print_time_totals(out, totals);
+}
+
+std::uint32_t zel_l2fib_trident_print_resource(Output &out, std::uint32_t level, ShowData data)
+{
+    if (data.is_null()) {
+        out.line(level);
+        return null_summary(out, __func__);
+    }
+    const auto *received_np_count = data.at<const U32>(0);
+    const std::uint32_t np_count = received_np_count == nullptr ? 1 : received_np_count->from_wire();
+    if (!np_count_is_valid(np_count)) {
+        out.line(level);
+        print_invalid_np_count(out, np_count);
+        return 0;
+    }
+    const auto *received = data.at<ResourceData>(0);
+    const auto total_macs = data.array_at<const U32>(sizeof(ResourceData), np_count);
+    const std::uint64_t expected = sizeof(ResourceData) + sizeof(U32) * np_count;
+    if (data.size() != expected) { // the sizes shown leave the NP count out
+        out.line(level, "%s: invalid data size: %d, expecting %d\n", __func__,
+                 static_cast<std::uint32_t>(data.size() - sizeof(U32)),
+                 static_cast<std::uint32_t>(expected - sizeof(U32)));
+        return L2FIB_SHOW_ERR_DATA;
+    }
+    const ResourceData resources = private_copy(*received);
+    for (std::uint32_t np = 0; np < np_count; ++np) {
+        print_np(out, np, resources, total_macs[np].from_wire());
+    }
+    out.text("\n");
+    for (std::uint32_t np = 0; np < np_count; ++np) {
+        out.text("                     Mac Scan Summary - NP%d\n", np);
+        out.text("%s", rule);
+        print_mac_scan(out, resources.mac_scans[np]);
+        out.text("\n");
+    }
+    return 0;
+}
+
+} // namespace l2fib
