@@ -14,12 +14,22 @@ struct ObjectKind {
 };
 
 /// In print order.
+// clang-format off
 constexpr ObjectKind object_kinds[] = {
-    {0, "LOCXC AC", true},       {1, "VPWS  AC", true},   {2, "VPLS  AC", true},
-    {3, "L2TP  AC", false},      {4, "VPWS  PW", true},   {5, "VPLS  PW", true},
-    {6, "BRIDGE", true},         {7, "BRIDGEPORT", true}, {8, "MAC", true},
-    {10, "PBB", false},          {11, "DHCP", false},     {16, "L2TP", false},
+    {0, "LOCXC AC", true},
+    {1, "VPWS  AC", true},
+    {2, "VPLS  AC", true},
+    {3, "L2TP  AC", false},
+    {4, "VPWS  PW", true},
+    {5, "VPLS  PW", true},
+    {6, "BRIDGE", true},
+    {7, "BRIDGEPORT", true},
+    {8, "MAC", true},
+    {10, "PBB", false},
+    {11, "DHCP", false},
+    {16, "L2TP", false},
     {17, "L2TP SESSION", false},
 };
+// clang-format on
 
 } // namespace l2fib
