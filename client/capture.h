@@ -1,19 +1,38 @@
-// Saved show data.
+// A capture: an object's show data, with all that is needed to show it as on its router.
 #pragma once
 
-#include <cstdint>
-#include <string>
-#include <vector>
+#include "client/objects.h"
+#include "client/offline_platform.h"
 
 namespace l2fib
 {
 
 struct Capture {
-    std::vector<std::uint8_t> bytes;
-    std::string error; ///< why there are no bytes
+    const Object *object = nullptr;
+    std::uint32_t node = 0;
+    const Choice *direction = &directions().front();
+    const Choice *view = nullptr; ///< null for the object's default
+    Router router;
+    std::vector<std::uint8_t> show_data;
+
+    /// Null for what has no views.
+    [[nodiscard]] const Choice *shown_view() const { return view != nullptr ? view : object->default_view; }
+
+    /// Shows it. The show data is converted on the way, so this is done once. Returns the library's status.
+    std::uint32_t show() { return show(show_data); }
+
+    /// Shows other show data in place of its own, as the same object on the same router.
+    std::uint32_t show(std::span<std::uint8_t> other_data) const;
 };
 
-/// Reads a file, or standard input for "-". An empty one is an error.
-Capture read_capture(const std::string &path);
+/// The capture on a line of a file.
+struct CaptureLine {
+    Capture capture;
+    std::string error; ///< why there is none; fit for a terminal
+};
+CaptureLine parse_capture(std::string_view line);
+
+/// The line of a capture, without its end.
+std::string format_capture(const Capture &capture);
 
 } // namespace l2fib

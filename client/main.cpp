@@ -1,118 +1,237 @@
 // l2fib-show: prints saved show data as the router's show commands do.
 #include "client/capture.h"
-#include "client/offline_platform.h"
-#include "platform/platform.h"
-#include "zel_l2fib/show.h"
+#include "client/diagnostics.h"
+#include "client/replay.h"
+#include "client/show_data_file.h"
 
 #include <CLI/CLI.hpp>
 
+#include <csignal>
 #include <cstdio>
 #include <exception>
-#include <map>
-#include <optional>
-#include <string>
+#include <sstream>
 
 namespace l2fib
 {
 
-enum ExitStatus : int { shown = 0, view_failed = 1, not_started = 2 };
-
-struct ObjectCommand {
-    const char *name;
-    std::uint32_t objtype;
-    const char *help;
-};
-
-static constexpr ObjectCommand object_commands[] = {
-    {"ac", L2FIB_OBJTYPE_AC, "Show an attachment circuit"},
-    {"pw", L2FIB_OBJTYPE_MPLS, "Show a pseudowire"},
-    {"bridge", L2FIB_OBJTYPE_BRIDGE, "Show a bridge"},
-    {"bridge-port", L2FIB_OBJTYPE_BRIDGE_PORT, "Show a bridge port"},
-    {"mac", L2FIB_OBJTYPE_BRIDGE_MAC, "Show a MAC address of a bridge"},
-};
-
-static const std::map<std::string, std::uint32_t> views = {
-    {"detail", L2FIB_VIEW_DETAIL},
-    {"private", L2FIB_VIEW_PRIVATE},
-    {"inconsistent", L2FIB_VIEW_INCONSISTENT},
-};
-
-struct Arguments {
-    std::uint32_t objtype = L2FIB_OBJTYPE_NONE;
-    std::uint32_t node = 0;
-    std::optional<std::uint32_t> card;
-    bool ingress = false;
-    bool egress = false;
-    std::string view = "detail";
+/// What is said of one object on the command line.
+struct Request {
+    Capture capture;
+    std::optional<std::uint64_t> monotonic_seconds;
+    std::optional<std::uint64_t> wall_seconds;
+    std::optional<HexForm> hex;
     std::string file;
 };
 
-static void add_object_command(CLI::App &app, const ObjectCommand &command, Arguments &arguments)
+template <class Row>
+static std::vector<std::string> names_of(std::span<const Row> table)
 {
-    CLI::App &object = *app.add_subcommand(command.name, command.help);
-    auto *ingress = object.add_flag("--ingress", arguments.ingress, "The ingress side (the default)");
-    object.add_flag("--egress", arguments.egress, "The egress side")->excludes(ingress);
-    object.add_option("--view", arguments.view, "The view (default: detail)")
-        ->check(CLI::IsMember(views))
+    std::vector<std::string> names;
+    for (const Row &row : table) {
+        names.emplace_back(row.name);
+    }
+    return names;
+}
+
+/// An option whose argument is the name of a row.
+template <class Row>
+static CLI::Option *add_named(CLI::App &app, const char *option, std::span<const Row> table,
+                              const std::function<void(const Row &)> &take, const char *help)
+{
+    return app
+        .add_option_function<std::string>(
+            option, [table, take](const std::string &name) { take(*row_named(table, name)); }, help)
+        ->check(CLI::IsMember(names_of(table)));
+}
+
+static void add_direction_and_view(CLI::App &app, Capture &capture)
+{
+    const std::span<const Choice> sides = directions();
+    auto *ingress = app.add_flag_callback(
+        "--ingress", [&capture, sides] { capture.direction = &sides[0]; }, "The ingress side (the default)");
+    app.add_flag_callback(
+           "--egress", [&capture, sides] { capture.direction = &sides[1]; }, "The egress side")
+        ->excludes(ingress);
+    add_named<Choice>(
+        app, "--view", views(), [&capture](const Choice &view) { capture.view = &view; },
+        "detail, private or inconsistent (default: detail; private for nhop and resources)")
         ->type_name("VIEW");
-    object.add_option("--node", arguments.node, "The node of the object (default: 0)")->type_name("ID");
-    object.add_option("--card", arguments.card, "The card-type code of the node (default: 0x1e1000)")
-        ->type_name("CODE");
-    object.add_option("FILE", arguments.file, "Raw show data; - for standard input")->required()->type_name("");
-    object.callback([&arguments, objtype = command.objtype] { arguments.objtype = objtype; });
 }
 
-static int complain(const std::string &what)
+static void add_router(CLI::App &app, Request &request)
 {
-    std::fprintf(stderr, "l2fib-show: %s\n", what.c_str());
-    return not_started;
+    Router &router = request.capture.router;
+    app.add_option("--node", request.capture.node, "The node of the object (default: 0)")->type_name("ID");
+    app.add_option("--card", router.card_type, "The card-type code of the node (default: 0x1e1000)")->type_name("CODE");
+    app.add_option("--virtual-interface", router.virtual_interfaces, "The handle of a virtual interface; repeatable")
+        ->type_name("HANDLE")
+        ->allow_extra_args(false);
+    auto *monotonic = app.add_option("--monotonic", request.monotonic_seconds,
+                                     "The router's monotonic clock when the show data was taken");
+    auto *wall = app.add_option("--wall", request.wall_seconds, "Its wall clock, since 1970, at the same time");
+    monotonic->type_name("SECONDS")->needs(wall);
+    wall->type_name("SECONDS")->needs(monotonic);
+    app.add_option("--time-zone", router.time_zone, "Its time zone, as POSIX writes it: CET-1CEST,M3.5.0,M10.5.0/3")
+        ->type_name("ZONE")
+        ->check([](const std::string &zone) {
+            return is_time_zone(zone) ? std::string() : "no time zone: " + spelled_out(zone);
+        });
 }
 
-static int show(const Arguments &arguments)
+static void add_input(CLI::App &app, Request &request)
 {
-    Capture capture = read_capture(arguments.file);
-    if (!capture.error.empty()) {
-        return complain(capture.error);
-    }
-    if (arguments.card) {
-        set_card_type(*arguments.card);
-    }
-    const std::uint32_t status =
-        zel_l2fib_print_internal(arguments.objtype, arguments.node, arguments.egress ? L2FIB_EGRESS : L2FIB_INGRESS,
-                                 views.at(arguments.view), capture.bytes.data(), capture.bytes.size());
-    std::fflush(stdout);
-    if (status != 0) {
-        std::fprintf(stderr, "l2fib-show: status 0x%08x: %s\n", status, status_text(status));
-        return view_failed;
-    }
-    return shown;
+    auto *format = add_named<ShowDataFormat>(
+        app, "--format", show_data_formats, [&request](const ShowDataFormat &named) { request.hex = named.hex; },
+        "raw (the default), hex (any of those that follow), plain, xxd or hexdump");
+    format->type_name("FORMAT");
+    app.add_flag_callback(
+           "--hex", [&request] { request.hex = HexForm::any; }, "The same as --format hex")
+        ->excludes(format);
+    app.add_option("FILE", request.file, "Show data; - for standard input")->required()->type_name("");
 }
 
-static int run(int argc, char **argv)
+static void add_example(CLI::App &app, const std::string &example)
 {
-    CLI::App app{"Prints saved show data of the layer-2 forwarding information base", "l2fib-show"};
+    app.footer("Example:\n  " + example);
+}
+
+static void add_object_command(CLI::App &app, const Object &object, Request &request)
+{
+    CLI::App &command = *app.add_subcommand(object.name, std::string("Show: ") + object.description);
+    if (object.has_views()) {
+        add_direction_and_view(command, request.capture);
+    }
+    add_router(command, request);
+    add_input(command, request);
+    add_example(command, std::string("l2fib-show ") + object.name + " --hex dump.txt");
+    command.callback([&request, &object] { request.capture.object = &object; });
+}
+
+static CLI::App *add_capture_command(CLI::App &app, Request &request)
+{
+    CLI::App &command = *app.add_subcommand("capture", "Write show data as a capture, with the clocks of now");
+    add_named<Object>(
+        command, "OBJECT", objects(), [&request](const Object &object) { request.capture.object = &object; },
+        "What the show data is of: the name of its command")
+        ->required()
+        ->type_name("");
+    add_direction_and_view(command, request.capture);
+    add_router(command, request);
+    add_input(command, request);
+    add_example(command, "l2fib-show capture ac --egress --node 3 ac.bin >>router.jsonl");
+    return &command;
+}
+
+static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options)
+{
+    CLI::App &command = *app.add_subcommand("replay", "Show the captures of files");
+    Selection &selection = options.selection;
+    command.add_option("--object", selection.objects, "Only objects of this command; repeatable")
+        ->check(CLI::IsMember(names_of(objects())))
+        ->type_name("OBJECT")
+        ->allow_extra_args(false);
+    command.add_option("--node", selection.node, "Only objects of this node")->type_name("ID");
+    command.add_option("--direction", selection.direction, "Only this side: ingress or egress")
+        ->check(CLI::IsMember(names_of(directions())))
+        ->type_name("SIDE");
+    command.add_option("--xid", selection.xid, "Only objects of this cross-connect ID")->type_name("XID");
+    command
+        .add_option_function<std::string>(
+            "--status", [&selection](const std::string &status) { selection.failed = status == "failed"; },
+            "Only views that ended so: ok or failed")
+        ->check(CLI::IsMember({"ok", "failed"}))
+        ->type_name("STATUS");
+    command.add_flag("--count", options.count, "Print how many objects, views and statuses there are, not their text");
+    command.add_flag("--heading", options.heading, "Print a line in front of each object that says which it is");
+    command.add_option("FILE", options.files, "Captures, one a line; - for standard input (the default)")
+        ->type_name("");
+    add_example(command, "l2fib-show replay --object ac --status failed router.jsonl");
+    return &command;
+}
+
+/// Reads the show data of a request. False, having said why, when there is none.
+static bool complete(Request &request)
+{
+    ShowDataFile file = read_show_data(request.file, request.hex);
+    if (!file.error.empty()) {
+        complain(file.error);
+        return false;
+    }
+    request.capture.show_data = std::move(file.show_data);
+    if (request.wall_seconds) {
+        request.capture.router.clocks = Clocks{*request.monotonic_seconds, *request.wall_seconds};
+    }
+    return true;
+}
+
+static ExitStatus show(Request &request)
+{
+    if (!complete(request)) {
+        return unusable;
+    }
+    const std::uint32_t status = request.capture.show();
+    if (!output_arrived()) {
+        return unusable;
+    }
+    return status == 0 ? shown : report_status(status);
+}
+
+static ExitStatus capture(Request &request)
+{
+    if (!complete(request)) {
+        return unusable;
+    }
+    Router &router = request.capture.router;
+    router.clocks = router.clocks.value_or(clocks_now());
+    router.time_zone = router.time_zone.value_or(local_time_zone());
+    std::printf("%s\n", format_capture(request.capture).c_str());
+    return output_arrived() ? shown : unusable;
+}
+
+static ExitStatus print(const std::string &text)
+{
+    std::fputs(text.c_str(), stdout);
+    return output_arrived() ? shown : unusable;
+}
+
+static ExitStatus run(int argc, char **argv)
+{
+    CLI::App app{"Prints saved show data of the layer-2 forwarding information base.\n\n"
+                 "Exit status: 0 all is shown, 1 a view reported a failure, 2 wrong usage or unreadable input.",
+                 "l2fib-show"};
     app.require_subcommand(0, 1); // none is reported below, so that an unknown one is reported by its name
-    Arguments arguments;
-    for (const ObjectCommand &command : object_commands) {
-        add_object_command(app, command, arguments);
+    app.set_version_flag("--version", "l2fib-show " L2FIB_VERSION);
+    add_example(app, "l2fib-show replay router.jsonl\n  l2fib-show ac --egress ac.bin");
+    Request request;
+    for (const Object &object : objects()) {
+        add_object_command(app, object, request);
     }
+    const CLI::App *capture_command = add_capture_command(app, request);
+    ReplayOptions replay_options;
+    const CLI::App *replay_command = add_replay_command(app, replay_options);
     try {
         app.parse(argc, argv);
-    } catch (const CLI::Success &help) {
-        return app.exit(help);
+    } catch (const CLI::Success &asked) {
+        std::ostringstream text;
+        app.exit(asked, text, text);
+        return print(text.str());
     } catch (const CLI::ParseError &error) {
         return complain(error.what());
     }
     if (app.get_subcommands().empty()) {
         return complain("an object is required; see l2fib-show --help");
     }
-    return show(arguments);
+    if (replay_command->parsed()) {
+        return replay(replay_options);
+    }
+    return capture_command->parsed() ? capture(request) : show(request);
 }
 
 } // namespace l2fib
 
 int main(int argc, char **argv)
 {
+    std::signal(SIGPIPE, SIG_IGN); // a closed pipe is an output that did not arrive
     try {
         return l2fib::run(argc, argv);
     } catch (const std::exception &error) {

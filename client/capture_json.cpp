@@ -1,0 +1,261 @@
+// Captures as lines of JSON.
+#include "client/capture.h"
+#include "client/diagnostics.h"
+#include "client/hex.h"
+
+#include <charconv>
+#include <limits>
+#include <nlohmann/json.hpp>
+
+namespace l2fib
+{
+
+/// What is known of a capture while its members come in, in any order.
+struct Draft {
+    Capture capture;
+    std::optional<std::uint64_t> monotonic_seconds;
+    std::optional<std::uint64_t> wall_seconds;
+    bool has_show_data = false;
+    std::string error;
+};
+
+/// Notes why a member is not taken. Returns false.
+static bool refuse(Draft &draft, const std::string &why)
+{
+    draft.error = why;
+    return false;
+}
+
+static bool set_u32(Draft &draft, std::uint32_t &field, std::uint64_t number)
+{
+    if (number > std::numeric_limits<std::uint32_t>::max()) {
+        return refuse(draft, "number above 4294967295");
+    }
+    field = static_cast<std::uint32_t>(number);
+    return true;
+}
+
+template <class Row>
+static bool set_row(Draft &draft, const Row *&field, std::span<const Row> table, const std::string &name)
+{
+    field = row_named(table, name);
+    return field != nullptr || refuse(draft, "unknown " + spelled_out(name));
+}
+
+static bool set_show_data(Draft &draft, const std::string &digits)
+{
+    auto bytes = bytes_of_hex(digits);
+    if (!bytes) {
+        return refuse(draft, "not pairs of hex digits");
+    }
+    draft.capture.show_data = std::move(*bytes);
+    draft.has_show_data = true;
+    return true;
+}
+
+static bool set_time_zone(Draft &draft, const std::string &zone)
+{
+    draft.capture.router.time_zone = zone;
+    return is_time_zone(zone) || refuse(draft, "no time zone: " + spelled_out(zone));
+}
+
+/// A member of a capture. It has a text or a number; a number may be written as a text, "0x1e1000".
+struct Member {
+    const char *name;
+    bool (*take_number)(Draft &draft, std::uint64_t number);
+    bool (*take_text)(Draft &draft, const std::string &text) = nullptr;
+    bool is_array = false;
+};
+
+static constexpr Member members[] = {
+    {"object", nullptr, [](Draft &d, const std::string &t) { return set_row(d, d.capture.object, objects(), t); }},
+    {"node", [](Draft &d, std::uint64_t n) { return set_u32(d, d.capture.node, n); }},
+    {"card", [](Draft &d, std::uint64_t n) { return set_u32(d, d.capture.router.card_type, n); }},
+    {"direction", nullptr,
+     [](Draft &d, const std::string &t) { return set_row(d, d.capture.direction, directions(), t); }},
+    {"view", nullptr, [](Draft &d, const std::string &t) { return set_row(d, d.capture.view, views(), t); }},
+    {"monotonic_seconds",
+     [](Draft &d, std::uint64_t n) {
+         d.monotonic_seconds = n;
+         return true;
+     }},
+    {"wall_seconds",
+     [](Draft &d, std::uint64_t n) {
+         d.wall_seconds = n;
+         return true;
+     }},
+    {"time_zone", nullptr, set_time_zone},
+    {"virtual_interfaces",
+     [](Draft &d, std::uint64_t n) { return set_u32(d, d.capture.router.virtual_interfaces.emplace_back(), n); },
+     nullptr, true},
+    {"show_data", nullptr, set_show_data},
+};
+
+/// The number that a text has, decimal or with 0x.
+static std::optional<std::uint64_t> number_of(std::string_view text)
+{
+    const bool is_hex = text.starts_with("0x");
+    text.remove_prefix(is_hex ? 2 : 0);
+    std::uint64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, is_hex ? 16 : 10);
+    const bool is_whole = error == std::errc{} && end == text.data() + text.size();
+    return is_whole ? std::optional(number) : std::nullopt;
+}
+
+using Json = nlohmann::ordered_json;
+
+/// Takes a capture member by member as the parser meets them, and nothing else: what a file may hold beside captures
+/// takes no memory.
+class CaptureReader : public nlohmann::json_sax<Json>
+{
+public:
+    Draft draft;
+
+    bool null() override { return other_value(); }
+    bool boolean(bool /*value*/) override { return other_value(); }
+    bool number_integer(Json::number_integer_t /*negative*/) override { return other_value(); }
+    bool number_float(Json::number_float_t /*value*/, const std::string & /*digits*/) override { return other_value(); }
+    bool binary(Json::binary_t & /*value*/) override { return other_value(); }
+
+    bool number_unsigned(Json::number_unsigned_t number) override
+    {
+        return is_member_value() && member_->take_number != nullptr ? blame(member_->take_number(draft, number))
+                                                                    : other_value();
+    }
+
+    bool string(std::string &text) override
+    {
+        if (!is_member_value()) {
+            return other_value();
+        }
+        if (member_->take_text != nullptr) {
+            return blame(member_->take_text(draft, text));
+        }
+        const auto number = number_of(text);
+        return blame(number ? member_->take_number(draft, *number) : refuse(draft, "no number: " + spelled_out(text)));
+    }
+
+    bool key(std::string &name) override
+    {
+        if (depth_ == 1) {
+            member_ = nullptr; // of a later version, or somebody's own
+            for (const Member &member : members) {
+                if (name == member.name) {
+                    member_ = &member;
+                }
+            }
+        }
+        return true;
+    }
+
+    bool start_object(std::size_t /*size*/) override { return depth_++ == 0 || other_value(); }
+    bool end_object() override { return close(); }
+    bool start_array(std::size_t /*size*/) override
+    {
+        const bool is_expected = depth_ == 1 && member_ != nullptr && member_->is_array;
+        return (is_expected || other_value()) && ++depth_ != 0;
+    }
+    bool end_array() override { return close(); }
+
+    bool parse_error(std::size_t position, const std::string & /*token*/, const Json::exception & /*error*/) override
+    {
+        return refuse(draft, "broken JSON at byte " + std::to_string(position));
+    }
+
+private:
+    /// Whether a value is the member's: those of an array lie one level below it.
+    [[nodiscard]] bool is_member_value() const { return member_ != nullptr && depth_ == (member_->is_array ? 2U : 1U); }
+
+    /// A value that no member has. Below members that are not known, it may be anything.
+    bool other_value()
+    {
+        if (depth_ == 0) {
+            return refuse(draft, "no JSON object");
+        }
+        return member_ == nullptr || blame(refuse(draft, member_->is_array ? "an array of numbers is needed"
+                                                         : member_->take_text != nullptr ? "a text is needed"
+                                                                                         : "a whole number is needed"));
+    }
+
+    bool blame(bool is_taken)
+    {
+        if (!is_taken) {
+            draft.error = std::string(member_->name) + ": " + draft.error;
+        }
+        return is_taken;
+    }
+
+    bool close()
+    {
+        --depth_;
+        return true;
+    }
+
+    unsigned depth_ = 0;
+    const Member *member_ = nullptr;
+};
+
+/// What a capture lacks, null for one that is whole.
+static const char *missing(const Draft &draft)
+{
+    if (draft.capture.object == nullptr) {
+        return "no object";
+    }
+    if (!draft.has_show_data) {
+        return "no show_data";
+    }
+    return draft.monotonic_seconds.has_value() == draft.wall_seconds.has_value()
+               ? nullptr
+               : "one of monotonic_seconds and wall_seconds without the other";
+}
+
+CaptureLine parse_capture(std::string_view line)
+{
+    CaptureReader reader;
+    Draft &draft = reader.draft;
+    draft.capture.router.time_zone = "UTC0";
+    if (!Json::sax_parse(line, &reader)) {
+        return {{}, draft.error};
+    }
+    if (const char *what = missing(draft); what != nullptr) {
+        return {{}, what};
+    }
+    if (draft.wall_seconds) {
+        draft.capture.router.clocks = Clocks{*draft.monotonic_seconds, *draft.wall_seconds};
+    }
+    return {std::move(draft.capture), {}};
+}
+
+std::string format_capture(const Capture &capture)
+{
+    const auto hex = [](std::uint32_t number) {
+        std::array<char, sizeof "0xffffffff"> text{};
+        std::snprintf(text.data(), text.size(), "0x%x", number);
+        return std::string(text.data());
+    };
+    const Router &router = capture.router;
+    Json line;
+    line["object"] = capture.object->name;
+    line["node"] = capture.node;
+    line["card"] = hex(router.card_type);
+    if (capture.object->has_views()) {
+        line["direction"] = capture.direction->name;
+        line["view"] = capture.shown_view()->name;
+    }
+    if (router.clocks) {
+        line["monotonic_seconds"] = router.clocks->monotonic_seconds;
+        line["wall_seconds"] = router.clocks->wall_seconds;
+    }
+    if (router.time_zone) {
+        line["time_zone"] = *router.time_zone;
+    }
+    if (!router.virtual_interfaces.empty()) {
+        for (const std::uint32_t handle : router.virtual_interfaces) {
+            line["virtual_interfaces"].push_back(hex(handle));
+        }
+    }
+    line["show_data"] = hex_of_bytes(capture.show_data);
+    return line.dump();
+}
+
+} // namespace l2fib

@@ -1,0 +1,54 @@
+#include "client/diagnostics.h"
+
+#include "platform/platform.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace l2fib
+{
+
+ExitStatus complain(std::string_view what)
+{
+    std::fprintf(stderr, "l2fib-show: %.*s\n", static_cast<int>(what.size()), what.data());
+    return unusable;
+}
+
+ExitStatus report_status(std::uint32_t status, std::string_view place)
+{
+    std::array<char, sizeof "0xffffffff"> code{};
+    std::snprintf(code.data(), code.size(), "0x%08x", status);
+    complain(std::string(place) + "status " + code.data() + ": " + status_text(status));
+    return view_failed;
+}
+
+std::string spelled_out(std::string_view text)
+{
+    constexpr std::size_t longest = 32;
+    std::string result = "'";
+    for (const char c : text.substr(0, longest)) {
+        if (c >= ' ' && c <= '~') {
+            result += c;
+        } else {
+            std::array<char, sizeof "\\xff"> code{};
+            std::snprintf(code.data(), code.size(), "\\x%02x", static_cast<unsigned char>(c));
+            result += code.data();
+        }
+    }
+    return result + (text.size() > longest ? "...'" : "'");
+}
+
+bool output_arrived()
+{
+    const int earlier = errno; // of a write that has failed already, if one has
+    errno = 0;
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) {
+        return true;
+    }
+    complain(std::string("standard output: ") + std::strerror(errno != 0 ? errno : earlier));
+    return false;
+}
+
+} // namespace l2fib

@@ -1,0 +1,189 @@
+#include "client/hex.h"
+
+#include <array>
+#include <charconv>
+
+namespace l2fib
+{
+
+constexpr std::uint8_t no_digit = 0xff;
+
+static constexpr std::array<std::uint8_t, 256> digit_values = [] {
+    std::array<std::uint8_t, 256> values{};
+    values.fill(no_digit);
+    for (std::uint8_t digit = 0; digit < 16; ++digit) {
+        values[static_cast<unsigned char>("0123456789abcdef"[digit])] = digit;
+        values[static_cast<unsigned char>("0123456789ABCDEF"[digit])] = digit;
+    }
+    return values;
+}();
+
+static std::uint8_t digit_value(char c)
+{
+    return digit_values[static_cast<unsigned char>(c)];
+}
+
+/// Appends the bytes of hex digits; false when there is half a byte or no hex.
+static bool append_digits(std::vector<std::uint8_t> &bytes, std::string_view digits)
+{
+    if (digits.size() % 2 != 0) {
+        return false;
+    }
+    unsigned seen = 0;
+    const std::size_t first = bytes.size();
+    bytes.resize(first + digits.size() / 2);
+    for (std::size_t i = 0; i < digits.size(); i += 2) {
+        const unsigned high = digit_value(digits[i]);
+        const unsigned low = digit_value(digits[i + 1]);
+        seen |= high | low;
+        bytes[first + i / 2] = static_cast<std::uint8_t>(high << 4 | low);
+    }
+    return (seen & 0xf0U) == 0;
+}
+
+std::optional<std::vector<std::uint8_t>> bytes_of_hex(std::string_view digits)
+{
+    std::vector<std::uint8_t> bytes;
+    return append_digits(bytes, digits) ? std::optional(std::move(bytes)) : std::nullopt;
+}
+
+std::string hex_of_bytes(const std::vector<std::uint8_t> &bytes)
+{
+    constexpr const char *digits = "0123456789abcdef";
+    std::string text;
+    text.reserve(2 * bytes.size());
+    for (const std::uint8_t byte : bytes) {
+        text += digits[byte >> 4U];
+        text += digits[byte & 0xfU];
+    }
+    return text;
+}
+
+constexpr std::string_view blanks = " \t\r";
+
+/// Takes the first word off a text; empty when there is none.
+static std::string_view next_word(std::string_view &text)
+{
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    const std::string_view word = text.substr(0, text.find_first_of(blanks));
+    text.remove_prefix(word.size());
+    return word;
+}
+
+/// Reads a dump line by line.
+class HexReader
+{
+public:
+    HexReader(HexForm form, std::size_t longest) : form_(form), longest_(longest) {}
+
+    /// False, with error() saying why, for a line that is not of the form.
+    bool read_line(std::string_view line);
+
+    [[nodiscard]] const char *error() const { return error_; }
+    std::vector<std::uint8_t> take_bytes() { return std::move(bytes_); }
+
+private:
+    static HexForm form_of(std::string_view line);
+    bool read_words(std::string_view words);
+    bool read_offset(std::string_view word);
+    bool fail(const char *why)
+    {
+        error_ = why;
+        return false;
+    }
+
+    HexForm form_;
+    std::size_t longest_;
+    std::vector<std::uint8_t> bytes_;
+    std::size_t line_begin_ = 0; // of the last line of bytes
+    bool repeated_ = false;      // a "*" stands for more lines like it
+    const char *error_ = nullptr;
+};
+
+/// By the offset and the characters beside the bytes.
+HexForm HexReader::form_of(std::string_view line)
+{
+    std::string_view rest = line;
+    if (next_word(rest).ends_with(':')) {
+        return HexForm::xxd;
+    }
+    const std::size_t last = line.find_last_not_of(blanks);
+    return line.find('|') != last && line[last] == '|' ? HexForm::hexdump : HexForm::plain;
+}
+
+bool HexReader::read_words(std::string_view words)
+{
+    for (std::string_view word = next_word(words); !word.empty(); word = next_word(words)) {
+        if (word.starts_with("0x") || word.starts_with("0X")) {
+            word.remove_prefix(2);
+        }
+        if (bytes_.size() + word.size() / 2 > longest_) {
+            return fail("more bytes than any show data has");
+        }
+        if (!append_digits(bytes_, word)) {
+            return fail("not pairs of hex digits");
+        }
+    }
+    return true;
+}
+
+/// Where the line lies, which has to be where the bytes before it end.
+bool HexReader::read_offset(std::string_view word)
+{
+    std::size_t offset = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), offset, 16);
+    if (error != std::errc{} || end != word.data() + word.size()) {
+        return fail("no offset");
+    }
+    if (offset > longest_) {
+        return fail("more bytes than any show data has");
+    }
+    const std::size_t line_size = bytes_.size() - line_begin_;
+    while (repeated_ && line_size != 0 && bytes_.size() < offset) {
+        for (std::size_t i = 0; i < line_size; ++i) {
+            bytes_.push_back(bytes_[line_begin_ + i]);
+        }
+    }
+    repeated_ = false;
+    line_begin_ = bytes_.size();
+    return offset == bytes_.size() || fail("not the offset at which the bytes before it end");
+}
+
+bool HexReader::read_line(std::string_view line)
+{
+    std::string_view rest = line;
+    const std::string_view first = next_word(rest);
+    if (first.empty()) {
+        return true;
+    }
+    if (form_ == HexForm::any) {
+        form_ = form_of(line);
+    }
+    if (form_ == HexForm::plain) {
+        return read_words(line);
+    }
+    if (first == "*") {
+        repeated_ = true;
+        return true;
+    }
+    if (form_ == HexForm::xxd) {
+        // The characters stand behind two blanks.
+        return read_offset(first.substr(0, first.find(':'))) && read_words(rest.substr(0, rest.find("  ")));
+    }
+    return read_offset(first) && read_words(rest.substr(0, rest.find('|')));
+}
+
+HexBytes read_hex(std::string_view text, HexForm form, std::size_t longest)
+{
+    HexReader reader{form, longest};
+    for (std::size_t line = 1; !text.empty(); ++line) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        if (!reader.read_line(text.substr(0, end))) {
+            return {{}, "line " + std::to_string(line) + ": " + reader.error()};
+        }
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return {reader.take_bytes(), {}};
+}
+
+} // namespace l2fib

@@ -1,0 +1,86 @@
+#include "client/objects.h"
+
+#include "rp/ac_context.h"
+#include "rp/bridge_context.h"
+#include "rp/bridge_port_context.h"
+#include "rp/pw_context.h"
+#include "zel_l2fib/show.h"
+
+#include <algorithm>
+
+namespace l2fib
+{
+
+static std::uint32_t show_object(const Object &object, const Question &question, std::span<std::uint8_t> show_data)
+{
+    return zel_l2fib_print_internal(object.objtype, question.node, question.direction, question.view_flags,
+                                    show_data.data(), show_data.size());
+}
+
+static std::uint32_t show_state_summary(const Object &, const Question &question, std::span<std::uint8_t> show_data)
+{
+    return zel_l2fib_platform_summary_hw_print_internal(question.node, 0, show_data.data(), show_data.size());
+}
+
+static std::uint32_t show_counters(const Object &, const Question &question, std::span<std::uint8_t> show_data)
+{
+    return zel_l2fib_platform_msg_counter_hw_print_internal(question.node, 0, show_data.data(), show_data.size());
+}
+
+static std::uint32_t show_hal_summary(const Object &, const Question &, std::span<std::uint8_t> show_data)
+{
+    return zel_l2fib_trident_print_summary(0, show_data.data(), show_data.size());
+}
+
+static constexpr Choice view_table[] = {
+    {"detail", L2FIB_VIEW_DETAIL},
+    {"private", L2FIB_VIEW_PRIVATE},
+    {"inconsistent", L2FIB_VIEW_INCONSISTENT},
+};
+static constexpr Choice direction_table[] = {
+    {"ingress", L2FIB_INGRESS},
+    {"egress", L2FIB_EGRESS},
+};
+
+static constexpr const Choice *detail = &view_table[0];
+static constexpr const Choice *private_view = &view_table[1];
+
+static constexpr Object object_table[] = {
+    {"ac", "attachment circuit", L2FIB_OBJTYPE_AC, detail, show_object, offsetof(AcShowData, context.xid)},
+    {"pw", "pseudowire", L2FIB_OBJTYPE_MPLS, detail, show_object, offsetof(PwContext, xid)},
+    {"bridge", "bridge", L2FIB_OBJTYPE_BRIDGE, detail, show_object, offsetof(BridgeShowData, context.bvi_xid)},
+    {"bridge-port", "bridge port", L2FIB_OBJTYPE_BRIDGE_PORT, detail, show_object, offsetof(BridgePortContext, pi_xid)},
+    {"mac", "MAC address of a bridge", L2FIB_OBJTYPE_BRIDGE_MAC, detail, show_object},
+    {"nhop", "next hop", L2FIB_OBJTYPE_NHOP, private_view, show_object},
+    {"resources", "use of the hardware tables, and MAC scans", L2FIB_OBJTYPE_RSRC_MON, private_view, show_object},
+    {"summary", "numbers of objects on the platform", L2FIB_OBJTYPE_NONE, nullptr, show_state_summary},
+    {"counters", "events of the objects on the platform", L2FIB_OBJTYPE_NONE, nullptr, show_counters},
+    {"hal-summary", "shared memory of the hardware abstraction layer", L2FIB_OBJTYPE_NONE, nullptr, show_hal_summary},
+};
+
+std::optional<std::uint32_t> Object::xid(std::span<const std::uint8_t> show_data) const
+{
+    U32 xid;
+    if (xid_offset == 0 || show_data.size() < xid_offset + xid.bytes.size()) {
+        return std::nullopt;
+    }
+    std::copy_n(show_data.data() + xid_offset, xid.bytes.size(), xid.bytes.begin());
+    return xid.from_wire();
+}
+
+std::span<const Object> objects()
+{
+    return object_table;
+}
+
+std::span<const Choice> views()
+{
+    return view_table;
+}
+
+std::span<const Choice> directions()
+{
+    return direction_table;
+}
+
+} // namespace l2fib

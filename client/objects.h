@@ -1,0 +1,55 @@
+// What l2fib-show can show, by the names that its commands and captures have for it.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace l2fib
+{
+
+/// A view or a direction: its name, and the number that the library has for it.
+struct Choice {
+    const char *name;
+    std::uint32_t number;
+};
+
+/// What the library is asked beside the object itself.
+struct Question {
+    std::uint32_t node;
+    std::uint32_t direction;
+    std::uint32_t view_flags;
+};
+
+struct Object {
+    const char *name;
+    const char *description;
+    std::uint32_t objtype;      ///< none for a summary
+    const Choice *default_view; ///< null for what has no views and no direction
+    std::uint32_t (*show)(const Object &object, const Question &question, std::span<std::uint8_t> show_data);
+    std::size_t xid_offset = 0; ///< of its cross-connect ID in the show data; 0 when it has none
+
+    [[nodiscard]] bool has_views() const { return default_view != nullptr; }
+
+    /// Its cross-connect ID, from show data that is not shown yet.
+    [[nodiscard]] std::optional<std::uint32_t> xid(std::span<const std::uint8_t> show_data) const;
+};
+
+std::span<const Object> objects();
+std::span<const Choice> views();
+std::span<const Choice> directions(); ///< the default first
+
+/// The row of a name, null when there is none.
+template <class Row>
+const Row *row_named(std::span<const Row> table, std::string_view name)
+{
+    for (const Row &row : table) {
+        if (row.name == name) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace l2fib

@@ -1,0 +1,166 @@
+#include "client/replay.h"
+
+#include "client/held_output.h"
+#include "client/input.h"
+#include "client/progress.h"
+#include "client/show_data_file.h"
+#include "platform/platform.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <tuple>
+
+namespace l2fib
+{
+
+bool Selection::fits(const Capture &capture) const
+{
+    const auto fits = [](const auto &choice, const auto &actual) { return !choice || *choice == actual; };
+    const bool is_wanted =
+        objects.empty() || std::find(objects.begin(), objects.end(), capture.object->name) != objects.end();
+    return is_wanted && fits(node, capture.node) &&
+           fits(direction, capture.object->has_views() ? capture.direction->name : "") &&
+           (!xid || capture.object->xid(capture.show_data) == xid);
+}
+
+/// How many captures of each object and view came to each status.
+class Tally
+{
+public:
+    void add(const Capture &capture, std::uint32_t status)
+    {
+        const Choice *view = capture.shown_view();
+        ++counts_[{capture.object->name, view == nullptr ? "-" : view->name, status}];
+    }
+
+    void print() const
+    {
+        std::size_t total = 0;
+        std::printf("%-12s %-13s %10s  %s\n", "object", "view", "count", "status");
+        for (const auto &[row, count] : counts_) {
+            const auto &[object, view, status] = row;
+            std::printf("%-12s %-13s %10zu  0x%08x %s\n", object.c_str(), view.c_str(), count, status,
+                        status_text(status));
+            total += count;
+        }
+        std::printf("%-12s %-13s %10zu\n", "all", "", total);
+    }
+
+private:
+    std::map<std::tuple<std::string, std::string, std::uint32_t>, std::size_t> counts_;
+};
+
+/// A run over files. What is wrong with a line is reported, and the rest goes on.
+class Replay
+{
+public:
+    explicit Replay(const ReplayOptions &options) : options_(options) {}
+
+    void file(const std::string &path);
+
+    ExitStatus finish()
+    {
+        progress_.clear();
+        if (options_.count) {
+            tally_.print();
+        }
+        return output_arrived() ? exit_status_ : unusable;
+    }
+
+private:
+    void show(Capture &capture, const std::string &place);
+    void print_heading(const Capture &capture, const std::string &place);
+
+    void note(ExitStatus status) { exit_status_ = std::max(exit_status_, status); }
+    void report(const std::string &what) // of a file
+    {
+        progress_.clear();
+        note(complain(what));
+    }
+
+    const ReplayOptions &options_;
+    HeldOutput held_;
+    Progress progress_;
+    Tally tally_;
+    bool is_first_ = true;
+    ExitStatus exit_status_ = shown;
+};
+
+void Replay::file(const std::string &path)
+{
+    constexpr std::size_t longest_line = 2 * longest_show_data + (std::size_t{64} << 10U);
+    Input input(path);
+    std::string text;
+    Input::Line line{};
+    for (std::size_t number = 1; std::ferror(stdout) == 0 && input.next_line(text, longest_line, line); ++number) {
+        const std::string place = path + ":" + std::to_string(number);
+        if (line == Input::Line::too_long) {
+            report(place + ": line too long");
+        } else if (text.find_first_not_of(" \t\r") != std::string::npos) {
+            CaptureLine parsed = parse_capture(text);
+            if (!parsed.error.empty()) {
+                report(place + ": " + parsed.error);
+            } else if (options_.selection.fits(parsed.capture)) {
+                show(parsed.capture, place);
+            }
+        }
+        progress_.step();
+    }
+    if (!input.error().empty()) {
+        report(input.error());
+    }
+}
+
+void Replay::show(Capture &capture, const std::string &place)
+{
+    const auto &failed = options_.selection.failed;
+    std::uint32_t status = 0;
+    if (!options_.count && !failed) {
+        print_heading(capture, place);
+        status = capture.show();
+    } else {
+        // What comes of it decides whether its text is wanted.
+        const std::string_view text = held_.text_of([&] { status = capture.show(); });
+        if (failed && *failed != (status != 0)) {
+            return;
+        }
+        if (options_.count) {
+            tally_.add(capture, status);
+        } else {
+            print_heading(capture, place);
+            std::fwrite(text.data(), 1, text.size(), stdout);
+        }
+    }
+    if (options_.count) {
+        note(status == 0 ? shown : view_failed);
+    } else if (status != 0) {
+        progress_.clear();
+        note(report_status(status, place + ": "));
+    }
+}
+
+void Replay::print_heading(const Capture &capture, const std::string &place)
+{
+    if (!options_.heading) {
+        return;
+    }
+    const Choice *view = capture.shown_view();
+    const std::string how = view == nullptr ? "" : std::string(" ") + capture.direction->name + " " + view->name;
+    std::printf("%s== %s: %s%s\n", is_first_ ? "" : "\n", place.c_str(), capture.object->name, how.c_str());
+    is_first_ = false;
+}
+
+ExitStatus replay(const ReplayOptions &options)
+{
+    Replay run(options);
+    if (options.files.empty()) {
+        run.file("-");
+    }
+    for (const std::string &path : options.files) {
+        run.file(path);
+    }
+    return run.finish();
+}
+
+} // namespace l2fib

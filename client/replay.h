@@ -1,0 +1,30 @@
+// Shows the captures of files, one after the other.
+#pragma once
+
+#include "client/capture.h"
+#include "client/diagnostics.h"
+
+namespace l2fib
+{
+
+/// Which captures are shown: those that fit every choice made here.
+struct Selection {
+    std::vector<std::string> objects; ///< any of these
+    std::optional<std::uint32_t> node;
+    std::optional<std::string> direction;
+    std::optional<std::uint32_t> xid;
+    std::optional<bool> failed; ///< by the status of the view
+
+    [[nodiscard]] bool fits(const Capture &capture) const;
+};
+
+struct ReplayOptions {
+    std::vector<std::string> files; ///< standard input when there are none
+    Selection selection;
+    bool count = false;   ///< a table of what there is, in place of the text
+    bool heading = false; ///< a line in front of each object
+};
+
+ExitStatus replay(const ReplayOptions &options);
+
+} // namespace l2fib
