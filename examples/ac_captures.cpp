@@ -114,13 +114,14 @@ static StormControlProfile storm_control_profile()
     return profile;
 }
 
-static VplsIngressBlock ingress_block()
+static BridgePortContext bridge_port()
 {
     constexpr std::uint32_t configured = 3;
     constexpr std::uint32_t disabled = 1;
-    VplsIngressBlock block{};
-    set(block.np_count, np_count);
-    BridgePortContext &port = block.port;
+    BridgePortContext port{};
+    set(port.bridge_id, bridge_domain);
+    set(port.mac_limit, 4000);
+    set(port.num_static_macs, 2);
     set(port.slot_mask[0], 0x05);
     set(port.np_flood_mask, 0x0007);
     set_flags(port.features.features,
@@ -137,13 +138,16 @@ static VplsIngressBlock ingress_block()
             set_as_stored(traffic.status, statuses[type]);
         }
     }
-    return block;
+    return port;
 }
 
 std::vector<std::uint8_t> make_vpls_ac_ingress()
 {
+    VplsIngressBlock block{};
+    set(block.np_count, np_count);
+    block.port = bridge_port();
     ShowDataBuilder builder;
-    builder.add(vpls_ac()).add_zeros(np_count * np_entry_size).add(ingress_block());
+    builder.add(vpls_ac()).add_zeros(np_count * np_entry_size).add(block);
     for (unsigned np = 0; np < np_count; ++np) {
         builder.add(VplsIngressNpRecord{np_record(np), storm_control_profile()});
     }
@@ -160,6 +164,12 @@ std::vector<std::uint8_t> make_vpls_ac_egress()
         builder.add(np_record(np));
     }
     return builder.bytes();
+}
+
+/// For the private view, which shows the bridge port in place of what the NPs hold.
+std::vector<std::uint8_t> make_vpls_ac_private()
+{
+    return ShowDataBuilder{}.add(vpls_ac()).add_zeros(np_count * np_entry_size).add(bridge_port()).bytes();
 }
 
 std::vector<std::uint8_t> make_local_switch_ac()

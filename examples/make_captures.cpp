@@ -1,9 +1,8 @@
 // Writes the sample captures into a directory: make-captures DIRECTORY
-#include "examples/captures.h"
+#include "examples/sample_lines.h"
 
 #include <fstream>
 #include <iostream>
-#include <string>
 
 int main(int argc, char **argv)
 {
@@ -12,12 +11,9 @@ int main(int argc, char **argv)
         return 2;
     }
     for (const l2fib::SampleCapture &sample : l2fib::sample_captures) {
-        const std::string path = std::string(argv[1]) + "/" + sample.name + ".bin";
-        const std::vector<std::uint8_t> bytes = sample.make();
+        const std::string path = std::string(argv[1]) + "/" + sample.name + ".jsonl";
         std::ofstream file(path, std::ios::binary);
-        for (const std::uint8_t byte : bytes) {
-            file.put(static_cast<char>(byte));
-        }
+        file << l2fib::sample_line(sample) << '\n';
         if (!file.flush()) {
             std::cerr << "make-captures: cannot write " << path << '\n';
             return 1;

@@ -1,0 +1,28 @@
+#include "examples/sample_lines.h"
+
+#include "client/capture.h"
+
+namespace l2fib
+{
+
+/// A router in Berlin that has been up for twelve days.
+static Router sample_router()
+{
+    Router router;
+    router.clocks = Clocks{12 * 86400, 1'763'900'000};
+    router.time_zone = "CET-1CEST,M3.5.0,M10.5.0/3";
+    return router;
+}
+
+std::string sample_line(const SampleCapture &sample)
+{
+    Capture capture;
+    capture.object = row_named(objects(), sample.object);
+    capture.direction = row_named(directions(), sample.direction);
+    capture.view = row_named(views(), sample.view);
+    capture.router = sample_router();
+    capture.show_data = sample.make();
+    return format_capture(capture);
+}
+
+} // namespace l2fib
