@@ -13,10 +13,11 @@ forbid() {
 
 everywhere='client/|examples/|tests/|platform/host/'
 forbid "$(ls common/*.h common/*.cpp | grep -v '^common/front_door\.')" "rp/|hw/|$everywhere" "formatting knows no record"
-forbid "common/front_door.cpp" "rp/[a-z0-9_]*detail|rp/[a-z_]*_context\.h|hw/|$everywhere" \
+forbid "common/front_door.cpp" "rp/[a-z0-9_]*(detail|private)|rp/[a-z_]*_context\.h|hw/|$everywhere" \
     "the front door knows no record and no view"
 forbid "$(ls rp/*.h rp/*.cpp)" "hw/|$everywhere" "the RP's side reaches the hardware's through the print table"
-forbid "$(ls hw/*.h hw/*.cpp)" "rp/[a-z_]*detail|rp/context_end|$everywhere" "the hardware's side calls no RP view"
+forbid "$(ls hw/*.h hw/*.cpp)" "rp/[a-z_]*(detail|private)|rp/context_end|$everywhere" "the hardware's side calls no RP view"
 forbid "$(ls include/zel_l2fib/*.h platform/*.h)" "common/|rp/|hw/|$everywhere" "the seams stand alone"
-forbid "$(ls client/*.h client/*.cpp)" "common/|rp/|hw/" "the client sees the exported interface only"
+forbid "$(ls client/*.h client/*.cpp)" "common/|hw/|rp/[a-z_]*(detail|private|end)" \
+    "the client sees the exported interface, and where a record has its XID"
 exit $status

@@ -6,16 +6,19 @@
 #include "hw/bridge_hal_context.h"
 #include "hw/bridge_member.h"
 #include "hw/mac_handler.h"
+#include "hw/mac_scan.h"
 #include "hw/uidb_entry.h"
 #include "hw/xid_entry.h"
 #include "rp/ac_context.h"
 #include "rp/bridge_port_context.h"
+#include "rp/next_hop_context.h"
 #include "rp/pw_context.h"
 #include "tests/support/printed.h"
 #include "zel_l2fib/show.h"
 
 #include <gtest/gtest.h>
 #include <iomanip>
+#include <regex>
 #include <sstream>
 
 namespace l2fib
@@ -44,6 +47,22 @@ static auto rp_detail(std::uint32_t objtype)
         zel_l2fib_hal_print[1].object_print = nullptr;
         zel_l2fib_print_internal_detail(objtype, 0, L2FIB_INGRESS, L2FIB_VIEW_DETAIL, bytes.data(), bytes.size());
     };
+}
+
+/// The same for the private view.
+static auto rp_private(std::uint32_t objtype)
+{
+    return [objtype](Output &, Wire &bytes) {
+        zel_l2fib_hal_print[1].object_print = nullptr;
+        zel_l2fib_print_internal_private(objtype, 0, L2FIB_INGRESS, L2FIB_VIEW_PRIVATE, bytes.data(), bytes.size());
+    };
+}
+
+static void mac_scan(Output &out, Wire &bytes)
+{
+    auto &scan = record<MacScan>(bytes);
+    scan.to_host();
+    print_mac_scan(out, scan);
 }
 
 static void xid_entry(Output &out, Wire &bytes)
@@ -125,6 +144,19 @@ static const std::vector<RecordCase> record_cases = {
      {{120, 0}, {121, 0}, {122, 0}, {123, 0}, {124, 0}, {125, 0}, {126, 0}, {127, 0}},
      rp_detail(13)},
     {"bridge MAC context", sizeof(BridgeMacContext), {8, 9, 10, 11}, {}, rp_detail(14)},
+    {"AC context, private",
+     sizeof(AcShowData) + 2 * 20 + sizeof(BridgePortContext),
+     {66, 67, 68, 69},
+     {{0, 1}, {1, 2}, {6, 0}, {7, 0}, {8, 0}, {9, 2}},
+     rp_private(2)},
+    {"PW context, private", sizeof(PwContext), {216, 217, 218, 219}, {}, rp_private(3)},
+    {"next hop context, private",
+     sizeof(NextHopContext) + 2 * sizeof(IgpPath),
+     {25880, 25900, 25908, 25916, 25936, 25944},
+     {{70, 0}, {71, 2}, {25880, 0x40}},
+     rp_private(6)},
+    {"bridge context, private", sizeof(BridgeShowData), {}, {}, rp_private(11)},
+    {"MAC scan", sizeof(MacScan), {}, {}, mac_scan},
     {"XID entry, AC", sizeof(XidEntry), {16, 17, 18, 19}, {{24, 0}, {25, 0}, {26, 0}, {27, 1}}, xid_entry},
     {"XID entry, bundle", sizeof(XidEntry), {}, {{24, 0}, {25, 0}, {26, 0}, {27, 2}}, xid_entry},
     {"XID entry, bundle by flow", sizeof(XidEntry), {}, {{17, 0x22}, {24, 0}, {25, 0}, {26, 0}, {27, 2}}, xid_entry},
@@ -164,10 +196,29 @@ static std::string print(const RecordCase &c, Wire bytes)
     });
 }
 
-/// The items of the flag list in a text, on one line.
+/// The labels in a text that stand in front of another number than 0.
+static std::string nonzero_labels(const std::string &text)
+{
+    std::istringstream cells(std::regex_replace(text, std::regex("\t+"), "\n"));
+    std::string labels;
+    for (std::string cell; std::getline(cells, cell);) {
+        const std::size_t colon = cell.find(':');
+        if (colon != std::string::npos && cell.find_first_not_of(" 0x", colon + 1) != std::string::npos) {
+            const std::size_t first = cell.find_first_not_of(' ');
+            labels +=
+                (labels.empty() ? "" : ", ") + cell.substr(first, cell.find_last_not_of(' ', colon - 1) + 1 - first);
+        }
+    }
+    return labels;
+}
+
+/// The items of the flag list in a text, on one line; without such a list, the numbers that may be flags.
 static std::string flag_items(const std::string &text)
 {
     const std::string label = "Flags: ";
+    if (text.find(label) == std::string::npos) {
+        return nonzero_labels(text);
+    }
     std::istringstream lines(text.substr(text.find(label) + label.size()));
     std::string items;
     for (std::string line; std::getline(lines, line);) {

@@ -1,8 +1,8 @@
 // The sample captures: the library as a show client meets it.
-#include "examples/captures.h"
-#include "platform/platform.h"
+#include "client/capture.h"
+#include "examples/sample_lines.h"
 #include "tests/support/printed.h"
-#include "tests/support/test_platform.h"
+#include "zel_l2fib/show.h"
 
 #include <gtest/gtest.h>
 
@@ -17,45 +17,78 @@ static std::ostream &operator<<(std::ostream &out, const SampleCapture &sample)
 class Samples : public testing::TestWithParam<SampleCapture>
 {
 protected:
-    [[nodiscard]] static Shown show(const std::vector<std::uint8_t> &bytes)
+    const Capture capture = parse_capture(sample_line(GetParam())).capture;
+
+    [[nodiscard]] Shown show(std::size_t size) const
     {
-        return shown_detail(GetParam().objtype, GetParam().direction, bytes);
+        const GuardedBytes data(
+            {capture.show_data.begin(), capture.show_data.begin() + static_cast<std::ptrdiff_t>(size)});
+        return shown([&] { return capture.show({data.data(), data.size()}); });
     }
 };
 
 TEST_P(Samples, AreThoseThatTheBuilderMakes)
 {
-    const std::vector<std::uint8_t> made = GetParam().make();
-    EXPECT_TRUE(std::string(made.begin(), made.end()) == file_text(std::string("examples/") + GetParam().name + ".bin"))
-        << "examples/" << GetParam().name << ".bin is not what make-captures writes";
+    EXPECT_TRUE(sample_line(GetParam()) + "\n" == file_text(std::string("examples/") + GetParam().name + ".jsonl"))
+        << "examples/" << GetParam().name << ".jsonl is not what make-captures writes";
 }
 
 TEST_P(Samples, WholeScreen)
 {
-    EXPECT_EQ(show(GetParam().make()), Shown{file_text(std::string("tests/screens/") + GetParam().name + ".txt")});
+    EXPECT_EQ(show(capture.show_data.size()),
+              Shown{file_text(std::string("tests/screens/") + GetParam().name + ".txt")});
 }
 
-/// The ingress part of a VPLS PW is left out where it is not whole; everything before it has to be there.
-static std::size_t needed_size(const SampleCapture &sample, std::size_t whole)
+/// From which size on a sample's view fails no more, and how it fails below.
+struct Need {
+    const char *name;
+    std::size_t size;
+    std::uint32_t status = L2FIB_SHOW_ERR_DATA;
+    std::uint32_t status_of_nothing = L2FIB_SHOW_ERR_DATA;
+};
+constexpr std::size_t all_of_it = SIZE_MAX;
+static constexpr Need needs[] = {
+    {"vpls-pw-ingress", 308 + 2 * 188}, // its ingress part is left out where it is not whole
+    {"vpls-pw-private", 304},
+    {"bridge-private", 930},
+    {"resources", all_of_it, L2FIB_SHOW_ERR_DATA, 0},
+    {"state-summary", 541, L2FIB_SHOW_ERR_ARGS, 0},
+    {"event-statistics", 4536, L2FIB_SHOW_ERR_ARGS, 0},
+    {"hal-summary", 0}, // never fails
+};
+
+static Need need_of(const SampleCapture &sample)
 {
-    constexpr std::size_t vpls_pw_without_ingress_part = 308 + 2 * 188;
-    return sample.make == make_vpls_pw_ingress ? vpls_pw_without_ingress_part : whole;
+    const auto *found = std::find_if(std::begin(needs), std::end(needs),
+                                     [&](const Need &need) { return std::string(sample.name) == need.name; });
+    return found == std::end(needs) ? Need{sample.name, all_of_it} : *found;
+}
+
+/// The text in front of the line that reports the early end; none when there is no such line.
+static std::optional<std::string> before_report(const std::string &text)
+{
+    for (const char *report : {"data_size is", "data size:", "size wrong", "corrupted buffer", "Invalid TLV size"}) {
+        if (const std::size_t at = text.find(report); at != std::string::npos) {
+            const std::size_t line = text.rfind('\n', at);
+            return text.substr(0, line == std::string::npos ? 0 : line);
+        }
+    }
+    return std::nullopt;
 }
 
 TEST_P(Samples, CutShortAtEverySize)
 {
-    const std::vector<std::uint8_t> whole = GetParam().make();
+    const std::size_t whole = capture.show_data.size();
     const std::string screen = show(whole).text;
-    const std::size_t needed = needed_size(GetParam(), whole.size());
-    for (std::size_t size = 0; size < whole.size(); ++size) {
-        const Shown result = show({whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)});
-        EXPECT_EQ(result.status, size < needed ? L2FIB_SHOW_ERR_DATA : 0) << "at " << size << " bytes";
-
-        // What was printed before the report of the early end is what the whole capture prints.
-        const std::size_t report = result.text.find("data_size is");
-        if (report != std::string::npos) {
-            const std::string before = result.text.substr(0, result.text.rfind('\n', report));
-            EXPECT_EQ(screen.substr(0, before.size()), before) << "at " << size << " bytes";
+    const Need need = need_of(GetParam());
+    const bool is_report = GetParam().view == std::string("inconsistent"); // one may end behind any record
+    for (std::size_t size = 0; size < whole; ++size) {
+        const Shown result = show(size);
+        const std::string before = before_report(result.text).value_or(is_report ? result.text : "");
+        ASSERT_EQ(screen.substr(0, before.size()), before) << "at " << size << " bytes";
+        if (!is_report) {
+            const std::uint32_t status = size == 0 ? need.status_of_nothing : need.status;
+            ASSERT_EQ(result.status, size < need.size ? status : 0) << "at " << size << " bytes";
         }
     }
 }
@@ -65,13 +98,5 @@ INSTANTIATE_TEST_SUITE_P(, Samples, testing::ValuesIn(sample_captures), [](const
     std::replace(name.begin(), name.end(), '-', '_');
     return name;
 });
-
-TEST(Platform, TheExecutablesOperationsComeFirst)
-{
-    test_platform.card_type = 0;
-    EXPECT_EQ(zel_l2fib_get_cardtype(0), 0U);
-    test_platform = {};
-    EXPECT_EQ(zel_l2fib_get_cardtype(0), 1U);
-}
 
 } // namespace l2fib

@@ -21,7 +21,14 @@ expect() {
     fi
 }
 
-capture=$source/examples/vpls-ac-ingress.bin
+# sample NAME: the show data of a sample, as a hex dump, in NAME.hex and as bytes in NAME.bin.
+sample() {
+    sed 's/.*"show_data":"//; s/".*//' "$source/examples/$1.jsonl" >"$1.hex"
+    perl -ne 'chomp; print pack("H*", $_)' "$1.hex" >"$1.bin"
+}
+sample vpls-ac-ingress
+sample vpls-ac-egress
+capture=vpls-ac-ingress.bin
 screen=$source/tests/screens/vpls-ac-ingress.txt
 : >empty
 head -c 105 "$capture" >short
@@ -30,7 +37,7 @@ printf '\nUnsupported card type NONE: 0' >card.txt
 
 expect 0 "$screen" '' -- ac "$capture"
 expect 0 "$screen" '' -- ac --ingress --view detail --node 3 --card 0x1e1005 "$capture"
-expect 0 "$source/tests/screens/vpls-ac-egress.txt" '' -- ac --egress "$source/examples/vpls-ac-egress.bin"
+expect 0 "$source/tests/screens/vpls-ac-egress.txt" '' -- ac --egress --hex vpls-ac-egress.hex
 expect 0 card.txt '' -- ac --card 0x1e1004 "$capture"
 expect 1 short.txt 'l2fib-show: status 0x46258800: show data malformed or too short' -- ac short
 expect 2 empty 'l2fib-show: missing: No such file or directory' -- ac missing
@@ -43,6 +50,81 @@ expect 2 empty 'l2fib-show: The following argument was not expected: vlan' -- vl
 expect 2 empty 'l2fib-show: The following argument was not expected: --loud' -- ac --loud short
 expect 2 empty 'l2fib-show: --ingress excludes --egress' -- ac --ingress --egress short
 expect 2 empty 'l2fib-show: Could not convert: --card = x' -- ac --card x short
+
+
+# Captures: what capture writes, replay shows; what is wrong with a line is told, and the rest goes on.
+ac=$source/examples/vpls-ac-ingress.jsonl
+port=$source/examples/bridge-port.jsonl
+zone=CET-1CEST,M3.5.0,M10.5.0/3
+expect 0 "$ac" '' -- capture ac --monotonic 1036800 --wall 1763900000 --time-zone $zone --format plain vpls-ac-ingress.hex
+expect 2 empty "l2fib-show: --time-zone: no time zone: '/etc/localtime'" -- ac --time-zone /etc/localtime short
+expect 2 empty 'l2fib-show: --monotonic requires --wall' -- capture ac --monotonic 5 short
+expect 2 empty 'l2fib-show: vpls-ac-ingress.bin: line 1: not pairs of hex digits' -- ac --hex vpls-ac-ingress.bin
+
+"$show" capture bridge-port --egress --node 9 short >failing
+{
+    cat "$ac"
+    printf '\n{"object":"ac\\u001b[2J","show_data":""}\r\n'
+    head -c 5000 "$ac" | tr -d '\n' && echo
+    head -c 10000000 /dev/zero | tr '\0' '[' && echo
+    cat "$port" failing
+} >mixed
+cat "$screen" "$source/tests/screens/bridge-port.txt" >both.txt
+printf '\nzel_l2fib_print_internal: data_size is 105, expecting at least 2588' >failing.txt
+cat both.txt failing.txt >mixed.txt
+broken="l2fib-show: mixed:3: object: unknown 'ac\\x1b[2J'
+l2fib-show: mixed:4: broken JSON at byte 5001
+l2fib-show: mixed:5: line too long"
+failed='l2fib-show: mixed:7: status 0x46258800: show data malformed or too short'
+expect 2 mixed.txt "$broken
+$failed" -- replay mixed
+expect 2 both.txt "$broken" -- replay --status ok mixed
+expect 1 failing.txt 'l2fib-show: failing:1: status 0x46258800: show data malformed or too short' -- \
+    replay --status failed "$ac" failing
+expect 0 both.txt '' -- replay --direction ingress "$ac" failing "$port"
+expect 0 "$screen" '' -- replay --xid 0x00340003 --object ac "$ac" "$port"
+expect 1 failing.txt 'l2fib-show: failing:1: status 0x46258800: show data malformed or too short' -- \
+    replay --node 9 "$ac" failing
+cat >count.txt <<END
+object       view               count  status
+ac           detail                 1  0x00000000 success
+bridge-port  detail                 1  0x00000000 success
+bridge-port  detail                 1  0x46258800 show data malformed or too short
+all                                 3
+END
+expect 2 count.txt "$broken" -- replay --count mixed
+{
+    printf '== %s:1: ac ingress detail\n' "$ac"
+    cat "$screen"
+    printf '\n== %s:1: bridge-port ingress detail\n' "$port"
+    cat "$source/tests/screens/bridge-port.txt"
+} >heading.txt
+expect 0 heading.txt '' -- replay --heading "$ac" "$port"
+
+expect 2 empty 'l2fib-show: missing: No such file or directory' -- replay missing
+expect 0 empty '' -- replay
+
+# Text that does not arrive.
+fails_to_write() {
+    "$show" "$@" >/dev/full 2>stderr
+    if [ $? -ne 2 ] || [ "$(cat stderr)" != 'l2fib-show: standard output: No space left on device' ]; then
+        echo "l2fib-show $* on a full disk:"
+        cat stderr
+        failures=$((failures + 1))
+    fi
+}
+fails_to_write replay "$ac"
+fails_to_write replay --count "$ac"
+fails_to_write ac "$capture"
+fails_to_write capture ac "$capture"
+fails_to_write --help
+for i in 1 2 3 4 5 6 7 8; do cat "$source/examples/resources.jsonl" "$source/examples/resources.jsonl"; done >many
+("$show" replay many 2>stderr; echo $? >status) | head -c 1 >/dev/null
+if [ "$(cat status)" -ne 2 ] || [ "$(cat stderr)" != 'l2fib-show: standard output: Broken pipe' ]; then
+    echo "a closed pipe: exit status $(cat status)"
+    cat stderr
+    failures=$((failures + 1))
+fi
 
 if ! "$show" ac - <"$capture" | cmp - "$screen"; then
     echo "standard input does not show what the file shows"

@@ -8,6 +8,7 @@
 #include "rp/bridge_context.h"
 #include "tests/support/memory.h"
 #include "tests/support/printed.h"
+#include "zel_l2fib/show.h"
 
 #include <gtest/gtest.h>
 

@@ -8,6 +8,9 @@ l2fib::TestPlatform l2fib::test_platform;
 
 uint32_t node_card_type(uint32_t /*node_id*/)
 {
+    if (l2fib::test_platform.when_asked_for_card) {
+        l2fib::test_platform.when_asked_for_card();
+    }
     return l2fib::test_platform.card_type;
 }
 

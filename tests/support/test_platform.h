@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 namespace l2fib
 {
@@ -11,6 +12,7 @@ struct TestPlatform {
     std::uint64_t monotonic_seconds = 0;
     std::uint32_t ifhandle_status = 0;
     std::uint32_t ifhandle_virtual = 0;
+    std::function<void()> when_asked_for_card;
 };
 
 extern TestPlatform test_platform;

@@ -1,0 +1,121 @@
+// Captures as lines of JSON, and what shows of the router that they came from.
+#include "client/capture.h"
+#include "tests/support/printed.h"
+
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+namespace l2fib
+{
+
+TEST(Capture, LinesKeepEverything)
+{
+    const std::string line =
+        R"({"object":"ac","node":3,"card":"0x1e1005","direction":"egress","view":"private","monotonic_seconds":7,)"
+        R"("wall_seconds":1763900000,"time_zone":"CET-1CEST,M3.5.0,M10.5.0/3","virtual_interfaces":["0x20","0x30"],)"
+        R"("show_data":"00ff10"})";
+    const CaptureLine parsed = parse_capture(line);
+    ASSERT_EQ(parsed.error, "");
+    EXPECT_EQ(format_capture(parsed.capture), line);
+}
+
+TEST(Capture, OnlyTheObjectAndItsShowDataAreNeeded)
+{
+    const CaptureLine parsed = parse_capture(
+        R"( {"show_data":"00","comment":{"card":[1,{"node":2}]},"card":1970180,"object":"nhop","node":"0x10"} )");
+    ASSERT_EQ(parsed.error, "");
+    EXPECT_EQ(format_capture(parsed.capture),
+              R"({"object":"nhop","node":16,"card":"0x1e1004","direction":"ingress","view":"private",)"
+              R"("time_zone":"UTC0","show_data":"00"})");
+}
+
+TEST(Capture, BrokenLines)
+{
+    const struct {
+        std::string line;
+        const char *error;
+    } cases[] = {
+        {R"({"object":"ac","show_data":"00")", "broken JSON at byte 32"},
+        {"\x7f\x45LF", "broken JSON at byte 1"},
+        {R"({"object":"ac","show_data":"00"} {})", "broken JSON at byte 34"},
+        {"{\"object\":\"ac\",\"show_data\":\"\xff\"}", "broken JSON at byte 29"},
+        {"[]", "no JSON object"},
+        {"17", "no JSON object"},
+        {std::string(100'000, '['), "no JSON object"},
+        {R"({"object":"ac"})", "no show_data"},
+        {R"({"show_data":"00"})", "no object"},
+        {R"({"object":"vlan\n","show_data":"00"})", R"(object: unknown 'vlan\x0a')"},
+        {R"({"object":2})", "object: a text is needed"},
+        {R"({"object":{"name":"ac"}})", "object: a text is needed"},
+        {R"({"object":["ac"]})", "object: a text is needed"},
+        {R"({"show_data":"0"})", "show_data: not pairs of hex digits"},
+        {R"({"show_data":"0x00"})", "show_data: not pairs of hex digits"},
+        {R"({"node":-1})", "node: a whole number is needed"},
+        {R"({"node":1.5})", "node: a whole number is needed"},
+        {R"({"node":99999999999999999999999})", "node: a whole number is needed"},
+        {R"({"node":4294967296})", "node: number above 4294967295"},
+        {R"({"node":"0x"})", "node: no number: '0x'"},
+        {R"({"node":[1]})", "node: a whole number is needed"},
+        {R"({"virtual_interfaces":1})", "virtual_interfaces: an array of numbers is needed"},
+        {R"({"virtual_interfaces":[[1]]})", "virtual_interfaces: an array of numbers is needed"},
+        {R"({"view":"raw"})", "view: unknown 'raw'"},
+        {R"({"direction":"both"})", "direction: unknown 'both'"},
+        {R"({"time_zone":":/etc/passwd"})", "time_zone: no time zone: ':/etc/passwd'"},
+        {R"({"object":"ac","show_data":"00","wall_seconds":1})",
+         "one of monotonic_seconds and wall_seconds without the other"},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(parse_capture(c.line).error, c.error) << c.line.substr(0, 80);
+    }
+}
+
+TEST(Capture, TimesAreThoseOfItsRouter)
+{
+    std::vector<std::uint8_t> port(2588);
+    port[120 + 3] = 0x02; // a stamp of 2^33 nanoseconds: 8 seconds after the router's start
+    const auto shown_in = [&](const char *zone, std::uint64_t wall_seconds) {
+        Capture capture;
+        capture.object = row_named(objects(), "bridge-port");
+        capture.router.clocks = Clocks{100, wall_seconds};
+        capture.router.time_zone = zone;
+        capture.show_data = port;
+        return printed([&] { capture.show(); });
+    };
+    setenv("TZ", "HST10", 1); // the machine's own, which must not matter
+    EXPECT_NE(shown_in("UTC0", 1'763'900'092).find("sent at: 11/23/2025 12:13:20"), std::string::npos);
+    EXPECT_NE(shown_in("<+0530>-5:30", 1'763'900'092).find("sent at: 11/23/2025 17:43:20"), std::string::npos);
+    EXPECT_NE(shown_in("CET-1CEST,M3.5.0,M10.5.0/3", 1'753'900'092).find("sent at: 07/30/2025 20:26:40"),
+              std::string::npos);
+}
+
+TEST(Capture, VirtualInterfacesAreThoseOfItsRouter)
+{
+    std::vector<std::uint8_t> unbound_ac(106 + 200);
+    unbound_ac[1] = 1;
+    unbound_ac[13] = 3;    // unbound
+    unbound_ac[17] = 0x40; // its interface
+    Capture capture;
+    capture.object = row_named(objects(), "ac");
+    capture.show_data = unbound_ac;
+    std::uint32_t status = 0;
+    printed([&] { status = capture.show(); });
+    EXPECT_NE(status, 0U); // the hardware part is looked for, and there is none
+
+    capture.show_data = unbound_ac;
+    capture.router.virtual_interfaces = {0x30, 0x40};
+    printed([&] { status = capture.show(); });
+    EXPECT_EQ(status, 0U);
+}
+
+TEST(TimeZones, OnlyThoseThatPosixDescribes)
+{
+    for (const char *zone : {"UTC0", "EST5EDT", "<-03>3", "CET-1CEST,M3.5.0,M10.5.0/3", "EST+5EDT,J60/2:30,300"}) {
+        EXPECT_TRUE(is_time_zone(zone)) << zone;
+    }
+    for (const char *zone : {"", "UTC", "Europe/Berlin", "/etc/localtime", ":UTC0", "../../dev/zero", "UTC0\n"}) {
+        EXPECT_FALSE(is_time_zone(zone)) << zone;
+    }
+    EXPECT_TRUE(is_time_zone(local_time_zone()));
+}
+
+} // namespace l2fib

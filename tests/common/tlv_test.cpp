@@ -1,0 +1,167 @@
+// Streams of type-length-value records, sound and not.
+#include "tests/support/printed.h"
+#include "zel_l2fib/show.h"
+
+#include <gtest/gtest.h>
+
+namespace l2fib
+{
+
+using Wire = std::vector<std::uint8_t>;
+
+static Wire operator+(Wire one, const Wire &other)
+{
+    one.insert(one.end(), other.begin(), other.end());
+    return one;
+}
+
+static Wire number(std::uint8_t value, std::uint8_t verdict = 1)
+{
+    return {1, 7, verdict, 0, 0, 0, value};
+}
+static Wire hex(std::uint8_t value, std::uint8_t verdict = 1)
+{
+    return {2, 7, verdict, 0xab, 0, 0, value};
+}
+static Wire text(const std::string &string, std::uint8_t verdict = 1)
+{
+    const Wire header{3, static_cast<std::uint8_t>(4 + string.size()), verdict};
+    return header + Wire(string.c_str(), string.c_str() + string.size() + 1);
+}
+static const Wire end_line{4, 3, 0};
+static const Wire end_stream{5, 3, 0};
+
+/// A stream, and where it was left.
+struct Printed {
+    Shown shown;
+    std::uint64_t consumed = 0;
+    std::uint64_t remaining = 0;
+};
+
+static Printed print(std::uint32_t level, const Wire &stream)
+{
+    const GuardedBytes data(stream);
+    std::uint8_t *cursor = data.data();
+    Printed result;
+    result.remaining = data.size();
+    result.shown = shown([&] { return zel_l2fib_print_tlv(level, &cursor, &result.remaining); });
+    result.consumed = static_cast<std::uint64_t>(cursor - data.data());
+    return result;
+}
+
+TEST(Tlv, Lines)
+{
+    const std::string dots(69, '.');
+    const struct {
+        std::uint32_t level;
+        Wire stream;
+        std::string text;
+    } cases[] = {
+        {1, {}, ""},
+        {1, end_stream + number(1), ""},
+        {0, number(7) + hex(8) + text("up") + end_line, "7 ab000008 up \n"},
+        {1, number(7, 3) + end_line, "  7 " + dots + " Warning\n"},
+        {1, number(7, 2) + end_line + end_line, "  7 " + dots + " OK\n\n"},
+        {1, number(7, 4) + end_line + number(8) + end_line, "  7 " + dots + " Error\n  8 \n"},
+        {0, number(7, 3) + number(7, 1) + number(7, 4) + end_line, "7 7 7 " + dots.substr(2) + " Error\n"},
+        {0, number(7, 3) + number(7, 1) + end_line, "7 7 " + dots + " Warning\n"},
+        {1, number(7, 0) + end_line, "  7 " + dots + " Invalid\n"},
+        {1, number(7, 5) + end_line, "  7 " + dots + " Invalid\n"},
+        {0, text(std::string(71, 'x'), 2) + end_line, std::string(71, 'x') + " . OK\n"},
+        {0, text(std::string(72, 'x'), 2) + end_line, std::string(72, 'x') + "  OK\n"},
+        {0, text(std::string(100, 'x'), 2) + end_line, std::string(100, 'x') + "  OK\n"},
+        {2, text("") + number(1) + end_stream, "     1 "},
+        {1, end_line + number(1), "\n  1 "},
+        {0, Wire{4, 5, 9, 9, 9} + text("on") + Wire{5, 4, 0, 0}, "\non "},
+    };
+    for (const auto &c : cases) {
+        const Printed printed = print(c.level, c.stream);
+        EXPECT_EQ(printed.shown, Shown{c.text});
+        EXPECT_EQ(printed.consumed + printed.remaining, c.stream.size());
+    }
+    EXPECT_EQ(print(1, end_stream + number(1)).remaining, 7U); // what follows the stream is left alone
+}
+
+TEST(Tlv, Errors)
+{
+    const std::string truncated = "ERROR: Output has been truncated!\n";
+    const std::string size = "ERROR: Invalid TLV size received!\n";
+    const std::string type = "ERROR: Unrecognized TLV type: ";
+    const struct {
+        Wire good; // is printed, and left behind
+        Wire bad;
+        std::string text;
+    } cases[] = {
+        {{}, {6}, "  " + truncated},
+        {number(1), {6, 0}, "  1 \n  " + truncated},
+        {number(1) + end_line, {6, 3, 0}, "  1 \n  " + truncated},
+        {{}, {1}, "  " + size},
+        {{}, {1, 7}, "  " + size},
+        {number(1), {4, 3}, "  1 \n  " + size},
+        {{}, {1, 8, 1, 0, 0, 0, 0}, "  " + size},
+        {{}, {1, 0, 1, 0, 0, 0, 0}, "  " + size},
+        {{}, {4, 1, 1}, "  " + size},
+        {{}, {5, 2, 1}, "  " + size},
+        {{}, {1, 6, 1, 0, 0, 0, 7}, "  " + size},
+        {{}, {2, 3, 1, 0, 0, 0, 7}, "  " + size},
+        {{}, {3, 3, 1, 0}, "  " + size},
+        {{}, {3, 5, 1, 'u', 'p', 0}, "  " + size},
+        {{}, {0, 3, 1}, "  " + type + "0\n"},
+        {number(1), {7, 3, 1}, "  1 \n  " + type + "7\n"},
+        {{}, {255, 255, 1}, "  " + size},
+        {{}, {0, 2, 1}, "  " + size},
+        {{}, {0}, "  " + size},
+    };
+    for (const auto &c : cases) {
+        const Printed printed = print(1, c.good + c.bad);
+        EXPECT_EQ(printed.shown, (Shown{c.text, L2FIB_SHOW_ERR_DATA}));
+        EXPECT_EQ(printed.consumed, c.good.size());
+        EXPECT_EQ(printed.remaining, c.bad.size());
+    }
+}
+
+TEST(Tlv, LongStreamsEnd)
+{
+    for (unsigned byte = 0; byte < 256; ++byte) {
+        const Printed printed = print(0, Wire(65536, static_cast<std::uint8_t>(byte)));
+        EXPECT_EQ(printed.shown.status, byte == 4 || byte == 5 ? 0 : L2FIB_SHOW_ERR_DATA) << byte;
+    }
+}
+
+TEST(Tlv, NullArguments)
+{
+    std::uint8_t byte = 5;
+    std::uint8_t *cursor = &byte;
+    std::uint8_t *none = nullptr;
+    std::uint64_t remaining = 1;
+    std::uint64_t nothing = 0;
+    EXPECT_EQ(shown([&] { return zel_l2fib_print_tlv(1, nullptr, &remaining); }), (Shown{"", L2FIB_SHOW_ERR_ARGS}));
+    EXPECT_EQ(shown([&] { return zel_l2fib_print_tlv(1, &cursor, nullptr); }), (Shown{"", L2FIB_SHOW_ERR_ARGS}));
+    EXPECT_EQ(shown([&] { return zel_l2fib_print_tlv(1, &none, &remaining); }), (Shown{"", L2FIB_SHOW_ERR_ARGS}));
+    EXPECT_EQ(shown([&] { return zel_l2fib_print_tlv(1, &none, &nothing); }), Shown{""});
+}
+
+TEST(Inconsistency, TheHardwaresReportFollowsTheRps)
+{
+    const Wire rp = number(1) + end_line + end_stream;
+    const Wire hardware = number(2) + end_line + end_stream;
+    const auto report = [](const Wire &stream) {
+        const GuardedBytes data(stream);
+        return shown([&] {
+            return zel_l2fib_print_internal(L2FIB_OBJTYPE_AC, 0, 1, L2FIB_VIEW_INCONSISTENT, data.data(), data.size());
+        });
+    };
+    EXPECT_EQ(report(rp + hardware), Shown{"\n  1 \n    2 \n"});
+    EXPECT_EQ(report(rp), Shown{"\n  1 \n"});
+    EXPECT_EQ(report({}), Shown{"\n"});
+    EXPECT_EQ(report(number(1) + Wire{6}),
+              (Shown{"\n  1 \n  ERROR: Output has been truncated!\n", L2FIB_SHOW_ERR_DATA}));
+    EXPECT_EQ(report(rp + Wire{6}), (Shown{"\n  1 \n    ERROR: Output has been truncated!\n", L2FIB_SHOW_ERR_DATA}));
+
+    EXPECT_EQ(
+        shown([] { return zel_l2fib_print_internal_inconsistent(2, 0, 1, 4, nullptr, 9); }),
+        (Shown{"zel_l2fib_print_internal_inconsistent: NULL show data objtype 2 action 99\n", L2FIB_SHOW_ERR_ARGS}));
+    EXPECT_EQ(shown([] { return zel_l2fib_print_internal_inconsistent(2, 0, 1, 4, nullptr, 0); }), Shown{"\n"});
+}
+
+} // namespace l2fib
