@@ -16,8 +16,13 @@ struct Draft {
     std::optional<std::uint64_t> monotonic_seconds;
     std::optional<std::uint64_t> wall_seconds;
     bool has_show_data = false;
+    std::optional<std::vector<std::uint8_t>> show_data_apart; ///< read ahead of the members
+    std::size_t broken_at = 0;                                ///< the byte at which it is no JSON
     std::string error;
 };
+
+/// What the parser is given in place of the digits of show data that is read already.
+constexpr const char *digits_apart = "*";
 
 /// Notes why a member is not taken. Returns false.
 static bool refuse(Draft &draft, const std::string &why)
@@ -42,9 +47,9 @@ static bool set_row(Draft &draft, const Row *&field, std::span<const Row> table,
     return field != nullptr || refuse(draft, "unknown " + spelled_out(name));
 }
 
-static bool set_show_data(Draft &draft, const std::string &digits)
+static bool set_show_data(Draft &draft, const std::string &text)
 {
-    auto bytes = bytes_of_hex(digits);
+    auto bytes = text == digits_apart ? std::exchange(draft.show_data_apart, std::nullopt) : bytes_of_hex(text);
     if (!bytes) {
         return refuse(draft, "not pairs of hex digits");
     }
@@ -159,7 +164,8 @@ public:
 
     bool parse_error(std::size_t position, const std::string & /*token*/, const Json::exception & /*error*/) override
     {
-        return refuse(draft, "broken JSON at byte " + std::to_string(position));
+        draft.broken_at = position;
+        return false;
     }
 
 private:
@@ -209,13 +215,45 @@ static const char *missing(const Draft &draft)
                : "one of monotonic_seconds and wall_seconds without the other";
 }
 
+/// The digits of the show data on a line; nothing, at its end, when they are not found.
+static std::string_view find_digits(std::string_view line)
+{
+    constexpr std::string_view key = "\"show_data\":";
+    const std::size_t found = line.find(key);
+    const std::size_t quote = found == std::string_view::npos ? found : line.find_first_not_of(' ', found + key.size());
+    if (quote == std::string_view::npos || line[quote] != '"') {
+        return line.substr(line.size());
+    }
+    return line.substr(quote + 1, line.find('"', quote + 1) - (quote + 1));
+}
+
+/// Runs the parser over a line. Nearly all of it are the digits of the show data, which take no parser: it is given the
+/// line without them.
+static bool read_line(CaptureReader &reader, std::string_view line)
+{
+    const std::string_view digits = find_digits(line);
+    reader.draft.show_data_apart = bytes_of_hex(digits);
+    const auto begin = static_cast<std::size_t>(digits.data() - line.data());
+    if (digits.empty() || !reader.draft.show_data_apart) {
+        return Json::sax_parse(line, &reader);
+    }
+    std::string rest(line.substr(0, begin));
+    rest += digits_apart;
+    rest += line.substr(begin + digits.size());
+    const bool is_read = Json::sax_parse(rest, &reader);
+    if (reader.draft.broken_at > begin) {
+        reader.draft.broken_at += digits.size() - 1;
+    }
+    return is_read;
+}
+
 CaptureLine parse_capture(std::string_view line)
 {
     CaptureReader reader;
     Draft &draft = reader.draft;
     draft.capture.router.time_zone = "UTC0";
-    if (!Json::sax_parse(line, &reader)) {
-        return {{}, draft.error};
+    if (!read_line(reader, line)) {
+        return {{}, draft.error.empty() ? "broken JSON at byte " + std::to_string(draft.broken_at) : draft.error};
     }
     if (const char *what = missing(draft); what != nullptr) {
         return {{}, what};

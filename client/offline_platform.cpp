@@ -84,6 +84,7 @@ uint32_t ifhandle_is_virtual(uint32_t ifhandle, uint32_t *is_virtual)
 
 /// Found before libc's: the library turns monotonic stamps into wall-clock time, and that has to be the time at which
 /// the show data was taken.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): libc's name is reserved
 extern "C" [[gnu::visibility("default")]] std::time_t time(std::time_t *result) noexcept
 {
     const auto &clocks = l2fib::current->clocks;

@@ -27,6 +27,15 @@ std::optional<std::uint32_t> refusal(Output &out, const char *view, const ViewRe
     return card_is_supported(out, request.node_id) ? std::nullopt : std::optional<std::uint32_t>{0};
 }
 
+std::optional<std::uint32_t> summary_refusal(Output &out, const char *view, const std::uint8_t *show_data,
+                                             std::uint64_t size)
+{
+    if (size == 0) {
+        return 0;
+    }
+    return show_data == nullptr ? std::optional{null_summary(out, view)} : std::nullopt;
+}
+
 void fill_hal_print()
 {
     constexpr std::size_t supported_card = 1;

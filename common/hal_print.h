@@ -26,6 +26,10 @@ bool card_is_supported(Output &out, std::uint32_t node_id);
 /// Why an RP view cannot begin: the status that goes with what it printed. None when it can.
 std::optional<std::uint32_t> refusal(Output &out, const char *view, const ViewRequest &request);
 
+/// The same for a platform summary, of which an empty one is shown as nothing.
+std::optional<std::uint32_t> summary_refusal(Output &out, const char *view, const std::uint8_t *show_data,
+                                             std::uint64_t size);
+
 /// Empties zel_l2fib_hal_print and enters the views of the supported card family.
 void fill_hal_print();
 

@@ -29,7 +29,7 @@ static BridgeShowData bridge_show_data()
     set(bridge.current_mac_limit, 4000);
     set(bridge.static_macs, 2);
     set(bridge.mtu, 1500);
-    set(bridge.last_notification, 11 * 86400 * std::uint64_t{1'000'000'000});
+    set(bridge.last_notification, std::uint64_t{11} * 86400 * 1'000'000'000);
     set(bridge.mac_limit_action, 1);
     set_flags(bridge.features.features, {FeatureFlags::storm_control_broadcast, FeatureFlags::storm_control_multicast});
     set_flags(bridge.features.more, {FeatureFlags::bvi_present});

@@ -48,11 +48,8 @@ uint32_t zel_l2fib_platform_msg_counter_hw_print_internal(uint32_t node_id, uint
 {
     using namespace l2fib;
     Output out;
-    if (size == 0) {
-        return 0;
-    }
-    if (show_data == nullptr) {
-        return null_summary(out, __func__);
+    if (const auto status = summary_refusal(out, __func__, show_data, size)) {
+        return *status;
     }
     const ShowData data{show_data, size};
     const auto *counts = data.at<EventCounts>(0);
