@@ -126,6 +126,17 @@ if [ "$(cat status)" -ne 2 ] || [ "$(cat stderr)" != 'l2fib-show: standard outpu
     failures=$((failures + 1))
 fi
 
+# The manual and the completion know every option.
+for command in '' $("$show" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z-]*\) .*/\1/p'); do
+    for option in $("$show" $command --help | grep -oE '^ +(-h,)?--[a-z-]+' | sed 's/.*--//'); do
+        if ! grep -q -- "--$option" "$source/completions/l2fib-show" ||
+            ! grep -qE -- "Fl -$option( |\$)" "$source/docs/man/l2fib-show.1"; then
+            echo "--$option of l2fib-show $command is not in the manual or not in the completion"
+            failures=$((failures + 1))
+        fi
+    done
+done
+
 if ! "$show" ac - <"$capture" | cmp - "$screen"; then
     echo "standard input does not show what the file shows"
     failures=$((failures + 1))
