@@ -9,7 +9,7 @@ namespace l2fib
 static Router sample_router()
 {
     Router router;
-    router.clocks = Clocks{12 * 86400, 1'763'900'000};
+    router.clocks = Clocks{std::uint64_t{12} * 86400, 1'763'900'000};
     router.time_zone = "CET-1CEST,M3.5.0,M10.5.0/3";
     return router;
 }

@@ -145,7 +145,7 @@ static const std::vector<RecordCase> record_cases = {
      rp_detail(13)},
     {"bridge MAC context", sizeof(BridgeMacContext), {8, 9, 10, 11}, {}, rp_detail(14)},
     {"AC context, private",
-     sizeof(AcShowData) + 2 * 20 + sizeof(BridgePortContext),
+     sizeof(AcShowData) + 2 * np_entry_size + sizeof(BridgePortContext),
      {66, 67, 68, 69},
      {{0, 1}, {1, 2}, {6, 0}, {7, 0}, {8, 0}, {9, 2}},
      rp_private(2)},
