@@ -1,0 +1,81 @@
+#!/bin/sh
+# install_test.sh BUILD_DIR SOURCE_DIR LIBDIR: the programs of others find, compile, link and load what is installed,
+# wherever it is moved.
+set -eu
+build=$1 source=$2 libdir=$3
+work=$(mktemp -d) && cd "$work"
+trap 'rm -rf "$work"' EXIT
+
+cmake --install "$build" --prefix "$work/staged" >/dev/null
+prefix=$work/prefix
+mv staged "$prefix"
+export PKG_CONFIG_PATH="$prefix/$libdir/pkgconfig"
+libraries=$prefix/$libdir
+clients=$source/tests/install
+strict="-Wall -Wextra -Wpedantic -Werror"
+failures=0
+
+# expect WHAT FILE COMMAND...: the command prints the file, and nothing on standard error.
+expect() {
+    what=$1 wanted=$2
+    shift 2
+    if ! "$@" >printed 2>&1 || ! diff "$wanted" printed; then
+        echo "$what: failed, or printed something else"
+        failures=$((failures + 1))
+    fi
+}
+
+# compile OUTPUT COMPILER ARGUMENT...: with what pkg-config says.
+compile() {
+    output=$1
+    shift
+    # shellcheck disable=SC2046,SC2086
+    "$@" $strict -o "$output" $(pkg-config --cflags --libs zel_l2fib)
+}
+
+echo 1 >stand_in
+echo 0 >own
+
+expect "l2fib-show" "$source/tests/screens/local-mac.txt" \
+    "$prefix/bin/l2fib-show" mac "$prefix/share/doc/zel_l2fib/examples/local-mac.bin"
+
+cmake -S "$clients" -B cmake -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake --build cmake >/dev/null
+expect "find_package, C" stand_in cmake/client-c
+expect "find_package, C++" stand_in cmake/client-cpp
+expect "find_package, a program's own operations" own cmake/client-own
+
+export LD_LIBRARY_PATH="$libraries"
+compile client cc -std=c11 "$clients/client.c"
+expect "pkg-config, C" stand_in ./client
+compile client-cpp c++ -std=c++20 -x c++ "$clients/client.c"
+expect "pkg-config, C++" stand_in ./client-cpp
+
+compile client-own cc -std=c11 "$clients/client.c" "$clients/own_platform.c"
+expect "pkg-config, a program's own operations" own ./client-own
+compile client-loading cc -std=gnu11 -rdynamic "$clients/loading_client.c" "$clients/own_platform.c" -Wl,--as-needed
+expect "dlopen, a program's own operations" own ./client-loading
+
+# A router's own platform library, by the installed script, without it, and with versions of its own.
+map=$prefix/share/zel_l2fib/zel_l2fib_platform.map
+export LD_LIBRARY_PATH="$work/router:$libraries"
+mkdir router
+for option in --version-script="$map" --no-undefined --default-symver; do
+    compile router/libzel_l2fib_platform.so.1 cc -std=c11 -shared -fPIC "$clients/own_platform.c" \
+        -Wl,-soname,libzel_l2fib_platform.so.1 "-Wl,$option" -Wl,--as-needed
+    expect "a router's platform library, $option" own ./client
+done
+
+page=$prefix/share/doc/zel_l2fib/integration.md
+
+# fenced LANGUAGE: the text of the integration page's block in that language.
+fenced() {
+    awk -v fence="\`\`\`$1" '$0 == fence { on = 1; next } /^```/ { on = 0 } on' "$page"
+}
+export LD_LIBRARY_PATH="$libraries"
+fenced c >page.c
+fenced text >page.txt
+compile page cc -std=c11 page.c
+expect "the integration page's program" page.txt ./page
+
+exit $((failures > 0))
