@@ -1,5 +1,5 @@
 #!/bin/sh
-# packages_test.sh BUILD_DIR PACKAGE_DIR: the packages of a build have every installed file once, and name what they need.
+# packages_test.sh BUILD_DIR PACKAGE_DIR: the packages have every installed file once, and name what they need.
 set -eu
 build=$(cd "$1" && pwd) packages=$(cd "$2" && pwd)
 work=$(mktemp -d) && cd "$work"
