@@ -39,7 +39,7 @@ echo 0 >own
 expect "l2fib-show" "$source/tests/screens/local-mac.txt" \
     "$prefix/bin/l2fib-show" mac "$prefix/share/doc/zel_l2fib/examples/local-mac.bin"
 
-cmake -S "$clients" -B cmake -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake -G Ninja -S "$clients" -B cmake -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
 cmake --build cmake >/dev/null
 expect "find_package, C" stand_in cmake/client-c
 expect "find_package, C++" stand_in cmake/client-cpp
