@@ -37,7 +37,7 @@ echo 1 >stand_in
 echo 0 >own
 
 expect "l2fib-show" "$source/tests/screens/local-mac.txt" \
-    "$prefix/bin/l2fib-show" mac "$prefix/share/doc/zel_l2fib/examples/local-mac.bin"
+    "$prefix/bin/l2fib-show" replay "$prefix/share/doc/zel_l2fib/examples/local-mac.jsonl"
 
 cmake -G Ninja -S "$clients" -B cmake -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
 cmake --build cmake >/dev/null
