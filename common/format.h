@@ -1,11 +1,12 @@
-// printf formats that are compared with their arguments when the code is compiled.
+// printf formats that the compiler reads: each is compared with its arguments, and taken apart for the output unit,
+// when the code is compiled.
 //
 // Beside numbers and C strings they take the fields of the show data themselves, and texts that a formatter made.
 #pragma once
 
 #include "common/stored.h"
 
-#include <array>
+#include <algorithm>
 #include <concepts>
 #include <cstdint>
 #include <string_view>
@@ -41,6 +42,18 @@ constexpr const char *printf_argument(const Text<capacity> &text)
     return text.chars;
 }
 
+/// What becomes of one argument, and the text in front of it.
+struct Conversion {
+    enum Kind : std::uint8_t { none, decimal, unsigned_decimal, hex, upper_hex, string };
+
+    std::uint16_t literal = 0; ///< characters of the format in front of it
+    std::uint8_t size = 0;     ///< characters of the format that say all this
+    std::uint8_t width = 0;
+    Kind kind = none; ///< none behind the last argument
+    bool left_aligned = false;
+    bool zero_filled = false;
+};
+
 template <class... Args>
 class Format
 {
@@ -48,62 +61,83 @@ public:
     // Implicit, so that a format is written as the string that it is.
     consteval Format(const char *text) : text_(text)
     {
-        constexpr std::array<Kind, sizeof...(Args)> kinds{kind_of<Args>()...};
-        std::size_t next = 0;
-        const auto take = [&](Kind expected) {
-            if (expected == Kind::none || next >= kinds.size() || kinds[next++] != expected) {
-                does_not_fit_its_arguments();
-            }
-        };
-        for (std::string_view rest = text; !rest.empty(); rest.remove_prefix(1)) {
-            if (rest.front() != '%') {
-                continue;
-            }
-            rest.remove_prefix(1);
-            if (rest.starts_with('%')) {
-                continue;
-            }
-            for (; is_one_of(rest, "-+ #0123456789*"); rest.remove_prefix(1)) {
-                if (rest.front() == '*') {
-                    take(Kind::number);
-                }
-            }
-            const bool is_long = is_one_of(rest, "lz");
-            if (is_long) {
-                rest.remove_prefix(1);
-            }
-            const Kind any_number = is_long ? Kind::long_number : Kind::number;
-            take(is_one_of(rest, "s") ? Kind::text : is_one_of(rest, "duxXc") ? any_number : Kind::none);
+        std::string_view rest = text;
+        for (std::size_t argument = 0; argument < sizeof...(Args); ++argument) {
+            conversions_[argument] = take_conversion(rest, is_text[argument], is_long[argument]);
         }
-        if (next != kinds.size()) {
+        conversions_[sizeof...(Args)].literal = take_literal(rest);
+        if (!rest.empty() || room() > max_room) {
             does_not_fit_its_arguments();
         }
     }
 
     [[nodiscard]] constexpr const char *text() const { return text_; }
+    [[nodiscard]] constexpr const Conversion *conversions() const { return conversions_; }
+
+    /// The characters that it makes at most, beside those of strings.
+    [[nodiscard]] constexpr std::size_t room() const
+    {
+        constexpr std::size_t longest_number = 20;
+        std::size_t room = 0;
+        for (const Conversion &conversion : conversions_) {
+            room += conversion.literal + std::max<std::size_t>(conversion.width, longest_number);
+        }
+        return room;
+    }
+    static constexpr std::size_t max_room = 1024;
 
 private:
-    enum class Kind : std::uint8_t { none, number, long_number, text };
-
     template <class Arg>
-    static consteval Kind kind_of()
+    using Passed = decltype(printf_argument(std::declval<const Arg &>()));
+    static constexpr bool is_text[] = {std::is_same_v<Passed<Args>, const char *>..., false};
+    static constexpr bool is_long[] = {(sizeof(Passed<Args>) == sizeof(std::uint64_t))..., false};
+
+    static constexpr std::uint16_t take_literal(std::string_view &rest)
     {
-        using Passed = decltype(printf_argument(std::declval<const Arg &>()));
-        if constexpr (std::is_same_v<Passed, const char *>) {
-            return Kind::text;
-        } else {
-            return sizeof(Passed) == sizeof(std::uint64_t) ? Kind::long_number : Kind::number;
-        }
+        const std::size_t size = std::min(rest.find('%'), rest.size());
+        rest.remove_prefix(size);
+        return static_cast<std::uint16_t>(size);
     }
 
-    static constexpr bool is_one_of(std::string_view rest, std::string_view set)
+    static constexpr Conversion take_conversion(std::string_view &rest, bool is_text, bool is_long)
     {
-        return !rest.empty() && set.find(rest.front()) != std::string_view::npos;
+        Conversion conversion;
+        conversion.literal = take_literal(rest);
+        const std::size_t begin = rest.size();
+        if (!take(rest, '%')) {
+            does_not_fit_its_arguments();
+        }
+        conversion.left_aligned = take(rest, '-');
+        conversion.zero_filled = take(rest, '0');
+        for (; !rest.empty() && rest.front() >= '0' && rest.front() <= '9'; rest.remove_prefix(1)) {
+            conversion.width = static_cast<std::uint8_t>(10 * conversion.width + (rest.front() - '0'));
+        }
+        const bool is_said_long = take(rest, 'l') || take(rest, 'z');
+        conversion.kind = take(rest, 'd')   ? Conversion::decimal
+                          : take(rest, 'u') ? Conversion::unsigned_decimal
+                          : take(rest, 'x') ? Conversion::hex
+                          : take(rest, 'X') ? Conversion::upper_hex
+                          : take(rest, 's') ? Conversion::string
+                                            : Conversion::none;
+        if (conversion.kind == Conversion::none || is_text != (conversion.kind == Conversion::string) ||
+            is_said_long != (is_long && !is_text)) {
+            does_not_fit_its_arguments();
+        }
+        conversion.size = static_cast<std::uint8_t>(begin - rest.size());
+        return conversion;
+    }
+
+    static constexpr bool take(std::string_view &rest, char c)
+    {
+        const bool is_next = rest.starts_with(c);
+        rest.remove_prefix(is_next ? 1 : 0);
+        return is_next;
     }
 
     static void does_not_fit_its_arguments() {} // not constexpr: reaching it is the compiler's error
 
     const char *text_;
+    Conversion conversions_[sizeof...(Args) + 1];
 };
 
 } // namespace l2fib

@@ -1,11 +1,11 @@
 #include "common/formatters.h"
 
+#include "common/number_text.h"
 #include "common/output.h"
 #include "platform/platform.h"
 #include "zel_l2fib/show.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 #include <ctime>
 
@@ -35,17 +35,59 @@ Text<256> timestamp_text(std::uint64_t stamp)
 
 Text<12> shg_text(std::uint32_t group)
 {
-    Text<12> text;
-    zel_l2fib_get_shg_str(text.chars, sizeof text.chars, static_cast<int>(group));
-    return text;
+    switch (group) {
+    case 0: return {"None"};
+    case 1: return {"VFI Enabled"};
+    case 2: return {"Enabled"};
+    default: return number_text<12>("%d", group);
+    }
 }
 
 Text<15> mac_text(const Bytes<6> &mac)
 {
-    Text<15> text;
-    std::snprintf(text.chars, sizeof text.chars, "%02x%02x.%02x%02x.%02x%02x", mac[0], mac[1], mac[2], mac[3], mac[4],
-                  mac[5]);
-    return text;
+    return number_text<15>("%02x%02x.%02x%02x.%02x%02x", mac[0], mac[1], mac[2], mac[3], mac[4], mac[5]);
+}
+
+Text<24> elapsed_text(std::uint64_t ns)
+{
+    const std::uint64_t ms = ns / 1'000'000;
+    const std::uint64_t seconds = ns / 1'000'000'000;
+    const std::uint64_t minutes = seconds / 60;
+    const auto hours = static_cast<std::uint32_t>(minutes / 60);
+    const std::uint32_t days = hours / 24;
+    if (ms == 0) {
+        return {"< 1 ms "};
+    }
+    if (seconds <= 59 && ms % 1000 != 0) {
+        // Milliseconds as a plain number: 2 s and 5 ms are "2.5 s ".
+        return number_text<24>("%lu.%lu s ", seconds, ms % 1000);
+    }
+    if (seconds <= 59) {
+        return number_text<24>("%lu s", seconds); // the one form without a closing blank
+    }
+    if (minutes <= 59) {
+        return number_text<24>("%lu m %lu s ", minutes, seconds - 60 * minutes);
+    }
+    if (hours <= 23) {
+        return number_text<24>("%u h %lu m ", hours, minutes - std::uint64_t{60} * hours);
+    }
+    if (days <= 99) {
+        return number_text<24>("%u d %u h ", days, hours - 24 * days);
+    }
+    return number_text<24>("%u d ", days);
+}
+
+/// What snprintf does with a text, and what it returns.
+template <std::size_t size>
+static int store(const Text<size> &text, char *room, std::size_t capacity)
+{
+    const std::size_t length = std::strlen(text.chars);
+    if (capacity != 0) {
+        const std::size_t fitting = std::min(length, capacity - 1);
+        std::memcpy(room, text.chars, fitting);
+        room[fitting] = '\0';
+    }
+    return static_cast<int>(length);
 }
 
 } // namespace l2fib
@@ -53,41 +95,13 @@ Text<15> mac_text(const Bytes<6> &mac)
 int zel_l2fib_print_elapsed(uint64_t ns, char *text, uint32_t capacity)
 {
     std::memset(text, 0, capacity);
-    const std::uint64_t ms = ns / 1'000'000;
-    const std::uint64_t seconds = ns / 1'000'000'000;
-    const std::uint64_t minutes = seconds / 60;
-    const auto hours = static_cast<std::uint32_t>(minutes / 60);
-    const std::uint32_t days = hours / 24;
-    if (ms == 0) {
-        return std::snprintf(text, capacity, "%s", "< 1 ms ");
-    }
-    if (seconds <= 59 && ms % 1000 != 0) {
-        // Milliseconds as a plain number: 2 s and 5 ms are "2.5 s ".
-        return std::snprintf(text, capacity, "%lu.%lu s ", seconds, ms % 1000);
-    }
-    if (seconds <= 59) {
-        return std::snprintf(text, capacity, "%lu s", seconds); // the one form without a closing blank
-    }
-    if (minutes <= 59) {
-        return std::snprintf(text, capacity, "%lu m %lu s ", minutes, seconds - 60 * minutes);
-    }
-    if (hours <= 23) {
-        return std::snprintf(text, capacity, "%u h %lu m ", hours, minutes - std::uint64_t{60} * hours);
-    }
-    if (days <= 99) {
-        return std::snprintf(text, capacity, "%u d %u h ", days, hours - 24 * days);
-    }
-    return std::snprintf(text, capacity, "%u d ", days);
+    return l2fib::store(l2fib::elapsed_text(ns), text, capacity);
 }
 
 int zel_l2fib_get_shg_str(char *text, int capacity, int value)
 {
-    constexpr const char *names[] = {"None", "VFI Enabled", "Enabled"};
     const auto room = static_cast<std::size_t>(std::max(capacity, 0));
-    if (value >= 0 && value < static_cast<int>(std::size(names))) {
-        return std::snprintf(text, room, "%s", names[value]);
-    }
-    return std::snprintf(text, room, "%d", value);
+    return l2fib::store(l2fib::shg_text(static_cast<std::uint32_t>(value)), text, room);
 }
 
 int print_mac(const uint8_t *mac)

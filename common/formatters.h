@@ -3,7 +3,6 @@
 
 #include "common/format.h"
 #include "common/stored.h"
-#include "zel_l2fib/show.h"
 
 #include <cstdint>
 
@@ -13,14 +12,8 @@ namespace l2fib
 /// The wall-clock time of a monotonic stamp in nanoseconds, "N/A" for a stamp of 0.
 Text<256> timestamp_text(std::uint64_t stamp);
 
-/// An elapsed time in nanoseconds, cut off where it does not fit.
-template <std::size_t capacity>
-Text<capacity> elapsed_text(std::uint64_t ns)
-{
-    Text<capacity> text;
-    zel_l2fib_print_elapsed(ns, text.chars, capacity);
-    return text;
-}
+/// An elapsed time in nanoseconds.
+Text<24> elapsed_text(std::uint64_t ns);
 
 /// A split-horizon group.
 Text<12> shg_text(std::uint32_t group);

@@ -2,6 +2,7 @@
 #include "common/hal_print.h"
 #include "common/show_data.h"
 #include "rp/context_end.h"
+#include "rp/views.h"
 
 namespace l2fib
 {
@@ -29,13 +30,14 @@ uint32_t zel_l2fib_print_internal(uint32_t objtype, uint32_t node_id, uint32_t d
     if (!card_is_supported(out, node_id)) {
         return 0;
     }
+    const ViewRequest request{objtype, node_id, direction, view_flags, show_data, size};
     if ((view_flags & L2FIB_VIEW_INCONSISTENT) != 0) {
-        return zel_l2fib_print_internal_inconsistent(objtype, node_id, direction, view_flags, show_data, size);
+        return l2fib::zel_l2fib_print_internal_inconsistent(out, request);
     }
     const bool private_view = (view_flags & L2FIB_VIEW_PRIVATE) != 0;
-    if (!holds_context(out, private_view, {objtype, node_id, direction, view_flags, show_data, size})) {
+    if (!holds_context(out, private_view, request)) {
         return L2FIB_SHOW_ERR_DATA;
     }
-    const auto view = private_view ? zel_l2fib_print_internal_private : zel_l2fib_print_internal_detail;
-    return view(objtype, node_id, direction, view_flags, show_data, size);
+    return private_view ? l2fib::zel_l2fib_print_internal_private(out, request)
+                        : l2fib::zel_l2fib_print_internal_detail(out, request);
 }

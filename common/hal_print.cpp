@@ -42,15 +42,21 @@ void fill_hal_print()
     for (zel_l2fib_hal_print_row &row : zel_l2fib_hal_print) {
         row = {};
     }
-    zel_l2fib_hal_print[supported_card].object_print = zel_l2fib_trident_print_internal;
+    zel_l2fib_hal_print[supported_card].object_print = ::zel_l2fib_trident_print_internal;
 }
 
-std::uint32_t hand_over(std::uint32_t level, const ViewRequest &request)
+std::uint32_t hand_over(Output &out, std::uint32_t level, const ViewRequest &request)
 {
     const auto object_print = zel_l2fib_hal_print[zel_l2fib_get_cardtype(request.node_id)].object_print;
-    return object_print == nullptr ? 0
-                                   : object_print(level, request.objtype, request.node_id, request.direction,
-                                                  request.view_flags, request.show_data, request.size);
+    if (object_print == nullptr) {
+        return 0;
+    }
+    if (object_print == ::zel_l2fib_trident_print_internal) {
+        return zel_l2fib_trident_print_internal(out, level, request);
+    }
+    out.flush(); // it may print by itself
+    return object_print(level, request.objtype, request.node_id, request.direction, request.view_flags,
+                        request.show_data, request.size);
 }
 
 std::uint32_t hand_over_summary(Output &out, std::uint32_t node_id, std::uint32_t hw_arg, ShowData hardware_part,
@@ -61,7 +67,11 @@ std::uint32_t hand_over_summary(Output &out, std::uint32_t node_id, std::uint32_
         return 0;
     }
     const auto print = zel_l2fib_hal_print[zel_l2fib_get_cardtype(node_id)].*slot;
-    return print == nullptr ? 0 : print(hw_arg, hardware_part.bytes(), hardware_part.size());
+    if (print == nullptr) {
+        return 0;
+    }
+    out.flush();
+    return print(hw_arg, hardware_part.bytes(), hardware_part.size());
 }
 
 } // namespace l2fib

@@ -34,7 +34,13 @@ std::optional<std::uint32_t> summary_refusal(Output &out, const char *view, cons
 void fill_hal_print();
 
 /// Prints the hardware's part of an object below the RP's: nothing when no view is entered for the card.
-std::uint32_t hand_over(std::uint32_t level, const ViewRequest &request);
+std::uint32_t hand_over(Output &out, std::uint32_t level, const ViewRequest &request);
+
+/// The print function of the supported card family, on the output of a call that is under way.
+std::uint32_t zel_l2fib_trident_print_internal(Output &out, std::uint32_t level, const ViewRequest &request);
+
+/// The same for the printer of inconsistency reports, which leaves `rest` at what follows the stream.
+std::uint32_t zel_l2fib_print_tlv(Output &out, std::uint32_t level, ShowData &rest);
 
 /// The slot of a platform summary.
 using SummarySlot = uint32_t (*zel_l2fib_hal_print_row::*)(uint32_t hw_arg, uint8_t *show_data, uint64_t size);

@@ -1,22 +1,51 @@
 #include "common/output.h"
 
 #include <algorithm>
-#include <cstdarg>
+#include <cstring>
 
 namespace l2fib
 {
 
-// Format has compared the format with its arguments.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wformat-nonliteral"
-int Output::print(const char *format, ...)
+void Output::flush()
 {
-    va_list args;
-    va_start(args, format);
-    const int printed = std::vfprintf(stream_, format, args);
-    va_end(args);
-    return std::max(printed, 0);
+    const auto size = static_cast<std::size_t>(next_ - buffer_);
+    std::fwrite(buffer_, 1, size, stream_); // what does not arrive is the stream's to tell its owner
+    flushed_ += size;
+    next_ = buffer_;
 }
-#pragma GCC diagnostic pop
+
+int Output::blanks(std::int64_t width)
+{
+    const auto count = static_cast<std::uint64_t>(width < 0 ? -width : width);
+    for (std::uint64_t left = count; left != 0;) {
+        reserve(1);
+        const auto fitting = std::min<std::uint64_t>(left, static_cast<std::size_t>(buffer_ + buffer_size - next_));
+        std::memset(next_, ' ', fitting);
+        next_ += fitting;
+        left -= fitting;
+    }
+    return static_cast<int>(count);
+}
+
+void Output::put_string(const Conversion &conversion, const char *string, std::size_t room)
+{
+    const std::size_t size = std::strlen(string);
+    const std::size_t padding = conversion.width > size ? conversion.width - size : 0;
+    if (!conversion.left_aligned) {
+        blanks(static_cast<std::int64_t>(padding));
+    }
+    if (size <= buffer_size) {
+        reserve(size);
+        std::memcpy(next_, string, size);
+        next_ += size;
+    } else {
+        flush();
+        flushed_ += std::fwrite(string, 1, size, stream_);
+    }
+    if (conversion.left_aligned) {
+        blanks(static_cast<std::int64_t>(padding));
+    }
+    reserve(room);
+}
 
 } // namespace l2fib

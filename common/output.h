@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/format.h"
+#include "common/number_text.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -10,25 +11,42 @@
 namespace l2fib
 {
 
+/// The text of one call into the library. It is put together here and handed to the stream when there is no more room,
+/// and before control leaves the library: flush() is for what may print by itself, and the end of the call does the
+/// rest.
 class Output
 {
 public:
     explicit Output(std::FILE *stream = stdout) : stream_(stream) {}
+    ~Output() { flush(); }
+    Output(const Output &) = delete;
+    Output &operator=(const Output &) = delete;
+
+    void flush();
 
     /// Text as it stands. Returns the number of characters, as do the others.
     template <class... Args>
     int text(Format<std::type_identity_t<Args>...> format, const Args &...args)
     {
-        return print(format.text(), printf_argument(args)...);
+        const std::uint64_t begin = printed();
+        reserve(format.room());
+        Position position{format.text(), format.conversions(), format.room()};
+        (put(position, printf_argument(args)), ...);
+        put_literal(position);
+        return static_cast<int>(printed() - begin);
     }
 
-    /// The blanks in front of a line.
-    int indent(std::uint32_t level) { return text("%*s", static_cast<int>(2 * level), ""); }
+    /// As many blanks as printf pads a width with. One that overflowed to a negative number pads as well.
+    int blanks(std::int64_t width);
+
+    /// The blanks in front of a line, two a level.
+    int indent(std::uint32_t level) { return blanks(static_cast<std::int32_t>(2 * level)); }
 
     /// Opens a new line, and ends the one before; returns the column reached.
     int line(std::uint32_t level)
     {
-        text("\n");
+        reserve(1);
+        *next_++ = '\n';
         return indent(level);
     }
 
@@ -49,9 +67,54 @@ public:
     }
 
 private:
-    int print(const char *format, ...);
+    static constexpr std::size_t buffer_size = 4096;
+
+    /// How far a format is printed.
+    struct Position {
+        const char *literal;
+        const Conversion *conversion;
+        std::size_t room; ///< that the rest takes at most
+    };
+
+    [[nodiscard]] std::uint64_t printed() const { return flushed_ + static_cast<std::uint64_t>(next_ - buffer_); }
+
+    /// Makes room for so many characters, of at most a buffer.
+    void reserve(std::size_t size)
+    {
+        if (static_cast<std::size_t>(buffer_ + buffer_size - next_) < size) {
+            flush();
+        }
+    }
+
+    void put_literal(Position &position)
+    {
+        const Conversion &conversion = *position.conversion;
+        std::memcpy(next_, position.literal, conversion.literal);
+        next_ += conversion.literal;
+        position.literal += conversion.literal + conversion.size;
+    }
+
+    void put(Position &position, const char *string)
+    {
+        put_literal(position);
+        put_string(*position.conversion++, string, position.room);
+    }
+
+    template <class Integer>
+    void put(Position &position, Integer value)
+    {
+        put_literal(position);
+        const Conversion &conversion = *position.conversion++;
+        next_ = write_number(next_, conversion, number_bits(conversion.kind, value));
+    }
+
+    /// A string, and room behind it for what follows.
+    void put_string(const Conversion &conversion, const char *string, std::size_t room);
 
     std::FILE *stream_;
+    std::uint64_t flushed_ = 0; // characters handed to the stream
+    char *next_ = buffer_;
+    char buffer_[buffer_size];
 };
 
 } // namespace l2fib

@@ -1,6 +1,6 @@
 // The printer of inconsistency reports: streams of type-length-value records that the producer has composed.
+#include "common/hal_print.h"
 #include "common/names.h"
-#include "common/output.h"
 #include "common/show_data.h"
 #include "zel_l2fib/show.h"
 
@@ -143,6 +143,12 @@ static std::uint32_t print_stream(Report &report, ShowData &rest)
     return 0;
 }
 
+std::uint32_t zel_l2fib_print_tlv(Output &out, std::uint32_t level, ShowData &rest)
+{
+    Report report{out, level};
+    return print_stream(report, rest);
+}
+
 } // namespace l2fib
 
 uint32_t zel_l2fib_print_tlv(uint32_t level, uint8_t **cursor, uint64_t *remaining)
@@ -152,9 +158,8 @@ uint32_t zel_l2fib_print_tlv(uint32_t level, uint8_t **cursor, uint64_t *remaini
         return L2FIB_SHOW_ERR_ARGS;
     }
     Output out;
-    Report report{out, level};
     ShowData rest{*cursor, *remaining};
-    const std::uint32_t status = print_stream(report, rest);
+    const std::uint32_t status = l2fib::zel_l2fib_print_tlv(out, level, rest);
     *cursor = rest.bytes();
     *remaining = rest.size();
     return status;

@@ -5,6 +5,7 @@
 #include "common/formatters.h"
 #include "common/working_copies.h"
 
+#include <algorithm>
 #include <iterator>
 #include <string_view>
 
@@ -47,8 +48,12 @@ static void print_columns(Output &out)
     constexpr int width = 11;
     out.text("%13s ", "");
     for (const char *name : operation_names) {
-        const int pad = (width - static_cast<int>(std::string_view{name}.size())) / 2;
-        out.text("%*c%-*s ", pad, ' ', width - pad, name);
+        const auto size = static_cast<int>(std::string_view{name}.size());
+        const int before = (width - size) / 2;
+        out.blanks(std::max(before, 1));
+        out.text("%s", name);
+        out.blanks(width - before - size);
+        out.text(" ");
     }
     out.text("   In use\n");
 
@@ -111,10 +116,12 @@ static void print_count_totals(Output &out, const ColumnTotal (&totals)[resource
     out.text("\n\n");
 }
 
-/// With room for "59 m 59 s", without its closing blank.
+/// A time, of which no more than nine characters are shown: "59 m 59 s" without its closing blank.
 static void print_time(Output &out, std::uint64_t time)
 {
-    out.text("%11s", elapsed_text<10>(time));
+    Text<24> text = elapsed_text(time);
+    text.chars[9] = '\0';
+    out.text("%11s", text);
 }
 
 static void print_times(Output &out, const ResourceType &type, const ResourceUse &use,

@@ -110,69 +110,97 @@ static std::uint32_t print_resources(Output &out, std::uint32_t level, ShowData 
     return report_failure(out, level, private_view, L2FIB_OBJTYPE_RSRC_MON, status, "\n");
 }
 
+static std::uint32_t zel_l2fib_trident_print_internal_detail(Output &out, std::uint32_t level,
+                                                             const ViewRequest &request)
+{
+    const ShowData data{request.show_data, request.size};
+    switch (request.objtype) {
+    case L2FIB_OBJTYPE_AC: return print_ac(out, level, request.direction, data);
+    case L2FIB_OBJTYPE_MPLS: return print_pw(out, level, request.direction, data);
+    case L2FIB_OBJTYPE_BRIDGE: return print_bridge(out, level, request.direction, data);
+    case L2FIB_OBJTYPE_BRIDGE_MAC: return print_mac(out, level, data);
+    case L2FIB_OBJTYPE_NHOP:
+    case L2FIB_OBJTYPE_BRIDGE_PORT: return 0; // the RP's context is all there is
+    default: out.line(level); return wrong_objtype(out, __func__, request.objtype);
+    }
+}
+
+static std::uint32_t zel_l2fib_trident_print_internal_private(Output &out, std::uint32_t level,
+                                                              const ViewRequest &request)
+{
+    switch (request.objtype) {
+    case L2FIB_OBJTYPE_RSRC_MON: return print_resources(out, level, {request.show_data, request.size});
+    case L2FIB_OBJTYPE_AC:
+    case L2FIB_OBJTYPE_MPLS:
+    case L2FIB_OBJTYPE_BRIDGE: return 0; // the RP's context is all there is
+    default: return wrong_objtype(out, __func__, request.objtype);
+    }
+}
+
+static std::uint32_t zel_l2fib_trident_print_internal_inconsistent(Output &out, std::uint32_t level,
+                                                                   const ViewRequest &request)
+{
+    if (request.objtype != L2FIB_OBJTYPE_AC) {
+        out.line(level, "Hardware object %s not handled", objtype_name(request.objtype));
+        return 0;
+    }
+    if (request.show_data == nullptr && request.size != 0) {
+        return L2FIB_SHOW_ERR_ARGS;
+    }
+    ShowData report{request.show_data, request.size};
+    return zel_l2fib_print_tlv(out, level + 1, report);
+}
+
+std::uint32_t zel_l2fib_trident_print_internal(Output &out, std::uint32_t level, const ViewRequest &request)
+{
+    if (!card_is_supported(out, request.node_id) || request.show_data == nullptr || request.size == 0) {
+        return 0;
+    }
+    if ((request.view_flags & L2FIB_VIEW_INCONSISTENT) != 0) {
+        return zel_l2fib_trident_print_internal_inconsistent(out, level, request);
+    }
+    if ((request.view_flags & L2FIB_VIEW_PRIVATE) != 0) {
+        return zel_l2fib_trident_print_internal_private(out, level, request);
+    }
+    return (request.view_flags & L2FIB_VIEW_DETAIL) != 0 ? zel_l2fib_trident_print_internal_detail(out, level, request)
+                                                         : 0;
+}
+
 } // namespace l2fib
 
 uint32_t zel_l2fib_trident_print_internal(uint32_t level, uint32_t objtype, uint32_t node_id, uint32_t direction,
                                           uint32_t view_flags, uint8_t *show_data, uint64_t size)
 {
-    using namespace l2fib;
-    Output out;
-    if (!card_is_supported(out, node_id)) {
-        return 0;
-    }
-    if (show_data == nullptr || size == 0) {
-        return 0;
-    }
-    const auto view = (view_flags & L2FIB_VIEW_INCONSISTENT) != 0 ? zel_l2fib_trident_print_internal_inconsistent
-                      : (view_flags & L2FIB_VIEW_PRIVATE) != 0    ? zel_l2fib_trident_print_internal_private
-                      : (view_flags & L2FIB_VIEW_DETAIL) != 0     ? zel_l2fib_trident_print_internal_detail
-                                                                  : nullptr;
-    const std::uint32_t card_type = zel_l2fib_get_cardtype(node_id);
-    return view == nullptr ? 0 : view(level, objtype, card_type, direction, view_flags, show_data, size);
+    l2fib::Output out;
+    return l2fib::zel_l2fib_trident_print_internal(out, level,
+                                                   {objtype, node_id, direction, view_flags, show_data, size});
 }
 
+// The views by themselves, which ask nobody for a card: the node stays open.
+
 uint32_t zel_l2fib_trident_print_internal_detail(uint32_t level, uint32_t objtype, uint32_t /*card_type*/,
-                                                 uint32_t direction, uint32_t /*view_flags*/, uint8_t *show_data,
+                                                 uint32_t direction, uint32_t view_flags, uint8_t *show_data,
                                                  uint64_t size)
 {
-    using namespace l2fib;
-    Output out;
-    const ShowData data{show_data, size};
-    switch (objtype) {
-    case L2FIB_OBJTYPE_AC: return print_ac(out, level, direction, data);
-    case L2FIB_OBJTYPE_MPLS: return print_pw(out, level, direction, data);
-    case L2FIB_OBJTYPE_BRIDGE: return print_bridge(out, level, direction, data);
-    case L2FIB_OBJTYPE_BRIDGE_MAC: return print_mac(out, level, data);
-    case L2FIB_OBJTYPE_NHOP:
-    case L2FIB_OBJTYPE_BRIDGE_PORT: return 0; // the RP's context is all there is
-    default: out.line(level); return wrong_objtype(out, __func__, objtype);
-    }
+    l2fib::Output out;
+    return l2fib::zel_l2fib_trident_print_internal_detail(out, level,
+                                                          {objtype, 0, direction, view_flags, show_data, size});
 }
 
 uint32_t zel_l2fib_trident_print_internal_private(uint32_t level, uint32_t objtype, uint32_t /*card_type*/,
-                                                  uint32_t /*direction*/, uint32_t /*view_flags*/, uint8_t *show_data,
+                                                  uint32_t direction, uint32_t view_flags, uint8_t *show_data,
                                                   uint64_t size)
 {
-    using namespace l2fib;
-    Output out;
-    switch (objtype) {
-    case L2FIB_OBJTYPE_RSRC_MON: return print_resources(out, level, {show_data, size});
-    case L2FIB_OBJTYPE_AC:
-    case L2FIB_OBJTYPE_MPLS:
-    case L2FIB_OBJTYPE_BRIDGE: return 0; // the RP's context is all there is
-    default: return wrong_objtype(out, __func__, objtype);
-    }
+    l2fib::Output out;
+    return l2fib::zel_l2fib_trident_print_internal_private(out, level,
+                                                           {objtype, 0, direction, view_flags, show_data, size});
 }
 
 uint32_t zel_l2fib_trident_print_internal_inconsistent(uint32_t level, uint32_t objtype, uint32_t /*card_type*/,
-                                                       uint32_t /*direction*/, uint32_t /*view_flags*/,
-                                                       uint8_t *show_data, uint64_t size)
+                                                       uint32_t direction, uint32_t view_flags, uint8_t *show_data,
+                                                       uint64_t size)
 {
-    using namespace l2fib;
-    if (objtype == L2FIB_OBJTYPE_AC) {
-        return zel_l2fib_print_tlv(level + 1, &show_data, &size);
-    }
-    Output out;
-    out.line(level, "Hardware object %s not handled", objtype_name(objtype));
-    return 0;
+    l2fib::Output out;
+    return l2fib::zel_l2fib_trident_print_internal_inconsistent(out, level,
+                                                                {objtype, 0, direction, view_flags, show_data, size});
 }

@@ -2,7 +2,7 @@
 #include "rp/detail.h"
 
 #include "common/failure.h"
-#include "common/hal_print.h"
+#include "rp/views.h"
 
 namespace l2fib
 {
@@ -32,28 +32,31 @@ static const DetailView *detail_view(std::uint32_t objtype)
     return nullptr;
 }
 
+std::uint32_t zel_l2fib_print_internal_detail(Output &out, const ViewRequest &request)
+{
+    if (const auto status = refusal(out, __func__, request)) {
+        return *status;
+    }
+    if (request.objtype == L2FIB_OBJTYPE_MCAST_LEAF) {
+        return 0; // known, and nothing to show
+    }
+    const DetailView *view = detail_view(request.objtype);
+    if (view == nullptr) {
+        return wrong_objtype(out, __func__, request.objtype);
+    }
+    if (view->print != nullptr) {
+        view->print(out, request.direction, request.show_data);
+    }
+    const std::uint32_t status = hand_over(out, view->hand_over_level, request);
+    out.text("\n");
+    return status;
+}
+
 } // namespace l2fib
 
 uint32_t zel_l2fib_print_internal_detail(uint32_t objtype, uint32_t node_id, uint32_t direction, uint32_t view_flags,
                                          uint8_t *show_data, uint64_t size)
 {
-    using namespace l2fib;
-    Output out;
-    const ViewRequest request{objtype, node_id, direction, view_flags, show_data, size};
-    if (const auto status = refusal(out, __func__, request)) {
-        return *status;
-    }
-    if (objtype == L2FIB_OBJTYPE_MCAST_LEAF) {
-        return 0; // known, and nothing to show
-    }
-    const DetailView *view = detail_view(objtype);
-    if (view == nullptr) {
-        return wrong_objtype(out, __func__, objtype);
-    }
-    if (view->print != nullptr) {
-        view->print(out, direction, show_data);
-    }
-    const std::uint32_t status = hand_over(view->hand_over_level, request);
-    out.text("\n");
-    return status;
+    l2fib::Output out;
+    return l2fib::zel_l2fib_print_internal_detail(out, {objtype, node_id, direction, view_flags, show_data, size});
 }

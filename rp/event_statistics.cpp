@@ -35,7 +35,7 @@ static void print_times(Output &out, const EventTimes &times)
         const Events<U64> &events = times.kinds[kind.row];
         out.text(" %-13s", kind.name);
         for (const U64 time : {events.created, events.modified, events.deleted, events.bound, events.unbound}) {
-            out.text("%11s", elapsed_text<12>(time));
+            out.text("%11s", elapsed_text(time));
         }
         out.text("\n");
     }

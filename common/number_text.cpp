@@ -1,0 +1,98 @@
+#include "common/number_text.h"
+
+#include <array>
+#include <bit>
+
+namespace l2fib
+{
+
+using DigitPairs = std::array<char, 512>;
+
+template <unsigned base>
+static constexpr DigitPairs digit_pairs(const char *digits)
+{
+    DigitPairs pairs{};
+    for (unsigned value = 0; value < base * base; ++value) {
+        pairs[2 * value] = digits[value / base];
+        pairs[2 * value + 1] = digits[value % base];
+    }
+    return pairs;
+}
+
+static constexpr DigitPairs decimal_pairs = digit_pairs<10>("0123456789");
+static constexpr DigitPairs hex_pairs = digit_pairs<16>("0123456789abcdef");
+static constexpr DigitPairs upper_hex_pairs = digit_pairs<16>("0123456789ABCDEF");
+
+static char *fill(char *at, char with, unsigned count)
+{
+    for (; count != 0; --count) {
+        *at++ = with;
+    }
+    return at;
+}
+
+/// Writes digits in front of an end, two at a time.
+template <unsigned base>
+static void write_digits(char *end, unsigned count, std::uint64_t value, const DigitPairs &pairs)
+{
+    constexpr unsigned pair = base * base;
+    for (; count >= 2; count -= 2, value /= pair) {
+        end -= 2;
+        std::memcpy(end, pairs.data() + 2 * (value % pair), 2);
+    }
+    if (count != 0) {
+        *--end = pairs[2 * value + 1];
+    }
+}
+
+static unsigned bit_width(std::uint64_t value)
+{
+    return static_cast<unsigned>(std::bit_width(value));
+}
+
+static unsigned decimal_digits(std::uint64_t value)
+{
+    static constexpr auto powers = [] {
+        std::array<std::uint64_t, 20> table{}; // of as many digits as there can be
+        std::uint64_t power = 1;
+        for (std::uint64_t &entry : table) {
+            entry = power;
+            power *= 10;
+        }
+        return table;
+    }();
+    const std::uint64_t nonzero = value | 1U;                    // as long as the value
+    const unsigned at_most = bit_width(nonzero) * 1233U / 4096U; // its logarithm; 1233 / 4096 is that of 2
+    return at_most + (nonzero >= powers[at_most] ? 1 : 0);
+}
+
+static unsigned hex_digits(std::uint64_t value)
+{
+    return (bit_width(value | 1U) + 3) / 4;
+}
+
+char *write_number(char *at, const Conversion &conversion, std::uint64_t value)
+{
+    const bool is_negative = conversion.kind == Conversion::decimal && (value >> 63U) != 0;
+    const std::uint64_t magnitude = is_negative ? 0 - value : value;
+    const bool is_hex = conversion.kind == Conversion::hex || conversion.kind == Conversion::upper_hex;
+    const unsigned count = is_hex ? hex_digits(magnitude) : decimal_digits(magnitude);
+    const unsigned size = count + (is_negative ? 1 : 0);
+    const unsigned padding = conversion.width > size ? conversion.width - size : 0;
+    const unsigned zeros = conversion.zero_filled && !conversion.left_aligned ? padding : 0;
+    const unsigned blanks_before = conversion.left_aligned ? 0 : padding - zeros;
+
+    at = fill(at, ' ', blanks_before);
+    if (is_negative) {
+        *at++ = '-';
+    }
+    at = fill(at, '0', zeros) + count;
+    if (is_hex) {
+        write_digits<16>(at, count, magnitude, conversion.kind == Conversion::hex ? hex_pairs : upper_hex_pairs);
+    } else {
+        write_digits<10>(at, count, magnitude, decimal_pairs);
+    }
+    return fill(at, ' ', padding - zeros - blanks_before);
+}
+
+} // namespace l2fib
