@@ -21,15 +21,27 @@ struct Text {
     char chars[capacity] = {};
 };
 
+/// A text of the code, whose length the compiler knows. As a row of a table it may be left out.
+struct Literal {
+    consteval Literal(const char *text) : chars(text), size(text == nullptr ? 0 : std::string_view(text).size()) {}
+
+    const char *chars;
+    std::size_t size;
+};
+
 template <class Integer>
 requires std::integral<Integer>
 constexpr Integer printf_argument(Integer value)
 {
     return value;
 }
-constexpr const char *printf_argument(const char *text)
+constexpr std::string_view printf_argument(const char *text)
 {
     return text;
+}
+constexpr std::string_view printf_argument(const Literal &text)
+{
+    return {text.chars, text.size};
 }
 template <class Integer>
 constexpr Integer printf_argument(const Stored<Integer> &field)
@@ -37,7 +49,7 @@ constexpr Integer printf_argument(const Stored<Integer> &field)
     return field.value();
 }
 template <std::size_t capacity>
-constexpr const char *printf_argument(const Text<capacity> &text)
+constexpr std::string_view printf_argument(const Text<capacity> &text)
 {
     return text.chars;
 }
@@ -89,7 +101,7 @@ public:
 private:
     template <class Arg>
     using Passed = decltype(printf_argument(std::declval<const Arg &>()));
-    static constexpr bool is_text[] = {std::is_same_v<Passed<Args>, const char *>..., false};
+    static constexpr bool is_text[] = {std::is_same_v<Passed<Args>, std::string_view>..., false};
     static constexpr bool is_long[] = {(sizeof(Passed<Args>) == sizeof(std::uint64_t))..., false};
 
     static constexpr std::uint16_t take_literal(std::string_view &rest)

@@ -52,8 +52,8 @@ public:
     void flags(const FlagTable<size> &table, const Word &word, std::uint32_t considered = all_flags)
     {
         for (const Flag &flag : table.rows) {
-            const char *text = is_set(word, flag.number) ? flag.text : flag.text_when_clear;
-            item_if(text != nullptr && is_set(considered, flag.number), "%s", text);
+            const Literal &text = is_set(word, flag.number) ? flag.text : flag.text_when_clear;
+            item_if(text.size != 0 && is_set(considered, flag.number), "%s", text);
         }
     }
 

@@ -1,5 +1,7 @@
 #include "common/number_text.h"
 
+#include "common/short_text.h"
+
 #include <array>
 #include <bit>
 
@@ -22,14 +24,6 @@ static constexpr DigitPairs digit_pairs(const char *digits)
 static constexpr DigitPairs decimal_pairs = digit_pairs<10>("0123456789");
 static constexpr DigitPairs hex_pairs = digit_pairs<16>("0123456789abcdef");
 static constexpr DigitPairs upper_hex_pairs = digit_pairs<16>("0123456789ABCDEF");
-
-static char *fill(char *at, char with, unsigned count)
-{
-    for (; count != 0; --count) {
-        *at++ = with;
-    }
-    return at;
-}
 
 /// Writes digits in front of an end, two at a time.
 template <unsigned base>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/format.h"
+#include "common/short_text.h"
 
 #include <cstdint>
 #include <cstring>
@@ -9,7 +10,8 @@
 namespace l2fib
 {
 
-/// Writes a number as printf would. The room is the caller's business: the width, or 20 characters. Returns the end.
+/// Writes a number as printf would. The room is the caller's business: the width, or 20
+/// characters, and fill_slack behind them. Returns the end.
 char *write_number(char *at, const Conversion &conversion, std::uint64_t value);
 
 /// The value of an argument as write_number takes it: sign-extended where it is printed with its sign.
@@ -28,13 +30,12 @@ constexpr std::uint64_t number_bits(Conversion::Kind kind, Integer value)
 template <std::size_t capacity, class... Args>
 Text<capacity> number_text(Format<std::type_identity_t<Args>...> format, const Args &...args)
 {
-    char room[Format<Args...>::max_room];
+    char room[Format<Args...>::max_room + fill_slack];
     char *at = room;
     const char *literal = format.text();
     const Conversion *conversion = format.conversions();
     const auto write_literal = [&] {
-        std::memcpy(at, literal, conversion->literal);
-        at += conversion->literal;
+        at = copy(at, literal, conversion->literal);
         literal += conversion->literal + conversion->size;
     };
     const auto write = [&](auto value) {

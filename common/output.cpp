@@ -14,9 +14,8 @@ void Output::flush()
     next_ = buffer_;
 }
 
-int Output::blanks(std::int64_t width)
+int Output::many_blanks(std::uint64_t count)
 {
-    const auto count = static_cast<std::uint64_t>(width < 0 ? -width : width);
     for (std::uint64_t left = count; left != 0;) {
         reserve(1);
         const auto fitting = std::min<std::uint64_t>(left, static_cast<std::size_t>(buffer_ + buffer_size - next_));
@@ -27,20 +26,19 @@ int Output::blanks(std::int64_t width)
     return static_cast<int>(count);
 }
 
-void Output::put_string(const Conversion &conversion, const char *string, std::size_t room)
+void Output::put_string(const Conversion &conversion, std::string_view string, std::size_t room)
 {
-    const std::size_t size = std::strlen(string);
+    const std::size_t size = string.size();
     const std::size_t padding = conversion.width > size ? conversion.width - size : 0;
     if (!conversion.left_aligned) {
         blanks(static_cast<std::int64_t>(padding));
     }
     if (size <= buffer_size) {
         reserve(size);
-        std::memcpy(next_, string, size);
-        next_ += size;
+        next_ = copy(next_, string.data(), size);
     } else {
         flush();
-        flushed_ += std::fwrite(string, 1, size, stream_);
+        flushed_ += std::fwrite(string.data(), 1, size, stream_);
     }
     if (conversion.left_aligned) {
         blanks(static_cast<std::int64_t>(padding));

@@ -3,6 +3,7 @@
 
 #include "common/format.h"
 #include "common/number_text.h"
+#include "common/short_text.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -37,7 +38,15 @@ public:
     }
 
     /// As many blanks as printf pads a width with. One that overflowed to a negative number pads as well.
-    int blanks(std::int64_t width);
+    int blanks(std::int64_t width)
+    {
+        if (width < 0 || width > few_blanks) {
+            return many_blanks(static_cast<std::uint64_t>(width < 0 ? -width : width));
+        }
+        reserve(few_blanks);
+        next_ = fill(next_, ' ', static_cast<std::size_t>(width));
+        return static_cast<int>(width);
+    }
 
     /// The blanks in front of a line, two a level.
     int indent(std::uint32_t level) { return blanks(static_cast<std::int32_t>(2 * level)); }
@@ -68,6 +77,9 @@ public:
 
 private:
     static constexpr std::size_t buffer_size = 4096;
+    static constexpr int few_blanks = 128;
+
+    int many_blanks(std::uint64_t count);
 
     /// How far a format is printed.
     struct Position {
@@ -89,12 +101,11 @@ private:
     void put_literal(Position &position)
     {
         const Conversion &conversion = *position.conversion;
-        std::memcpy(next_, position.literal, conversion.literal);
-        next_ += conversion.literal;
+        next_ = copy(next_, position.literal, conversion.literal);
         position.literal += conversion.literal + conversion.size;
     }
 
-    void put(Position &position, const char *string)
+    void put(Position &position, std::string_view string)
     {
         put_literal(position);
         put_string(*position.conversion++, string, position.room);
@@ -109,12 +120,12 @@ private:
     }
 
     /// A string, and room behind it for what follows.
-    void put_string(const Conversion &conversion, const char *string, std::size_t room);
+    void put_string(const Conversion &conversion, std::string_view string, std::size_t room);
 
     std::FILE *stream_;
     std::uint64_t flushed_ = 0; // characters handed to the stream
     char *next_ = buffer_;
-    char buffer_[buffer_size];
+    char buffer_[buffer_size + fill_slack];
 };
 
 } // namespace l2fib

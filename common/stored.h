@@ -14,6 +14,33 @@ namespace l2fib
 
 static_assert(std::endian::native == std::endian::little, "to_host() turns every field round");
 
+template <class Integer>
+constexpr Integer byte_swapped(Integer value)
+{
+    if constexpr (sizeof value == 8) {
+        return static_cast<Integer>(__builtin_bswap64(static_cast<std::uint64_t>(value)));
+    } else if constexpr (sizeof value == 4) {
+        return static_cast<Integer>(__builtin_bswap32(static_cast<std::uint32_t>(value)));
+    } else if constexpr (sizeof value == 2) {
+        return static_cast<Integer>(__builtin_bswap16(static_cast<std::uint16_t>(value)));
+    } else {
+        return value;
+    }
+}
+
+/// The bits of a word, from the other end.
+template <class Word>
+constexpr Word bits_reversed(Word word)
+{
+    constexpr Word pairs = static_cast<Word>(0x3333333333333333);
+    constexpr Word nibbles = static_cast<Word>(0x0f0f0f0f0f0f0f0f);
+    constexpr Word bits = static_cast<Word>(0x5555555555555555);
+    word = static_cast<Word>((word >> 1 & bits) | (word & bits) << 1);
+    word = static_cast<Word>((word >> 2 & pairs) | (word & pairs) << 2);
+    word = static_cast<Word>((word >> 4 & nibbles) | (word & nibbles) << 4);
+    return byte_swapped(word);
+}
+
 /// An integer of the show data.
 template <class Integer>
 class Stored
@@ -33,7 +60,7 @@ public:
         return converted.value();
     }
 
-    constexpr void to_host() { std::reverse(bytes.begin(), bytes.end()); }
+    constexpr void to_host() { bytes = std::bit_cast<decltype(bytes)>(byte_swapped(value())); }
 
     std::array<std::uint8_t, sizeof(Integer)> bytes;
 };
@@ -108,11 +135,15 @@ public:
 
     constexpr void to_host()
     {
-        const Bits wire = word.from_wire();
-        Bits host = 0;
+        // Turned round, every field is where the host has it; those of several bits are then the wrong way round.
+        Bits host = bits_reversed(word.from_wire());
         for (const Field field : layout) {
-            const unsigned wire_start = word_width - field.width - field.start;
-            host = static_cast<Bits>(host | (static_cast<Bits>(wire >> wire_start) & mask(field)) << field.start);
+            if (field.width > 1) {
+                const auto turned = static_cast<Bits>(static_cast<Bits>(host >> field.start) & mask(field));
+                const auto value = static_cast<Bits>(bits_reversed(turned) >> (word_width - field.width));
+                host =
+                    static_cast<Bits>((host & ~static_cast<Bits>(mask(field) << field.start)) | value << field.start);
+            }
         }
         const auto host_bytes = std::bit_cast<decltype(word.bytes)>(host);
         std::copy_n(host_bytes.begin(), (used_width + 7) / 8, word.bytes.begin());

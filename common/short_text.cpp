@@ -1,0 +1,32 @@
+#include "common/short_text.h"
+
+namespace l2fib
+{
+
+// In words that overlap: most texts are shorter than a call of memcpy is worth.
+char *copy(char *to, const char *from, std::size_t size)
+{
+    const auto both_ends = [=]<class Word>(Word first) {
+        Word last;
+        std::memcpy(&first, from, sizeof first);
+        std::memcpy(&last, from + size - sizeof last, sizeof last);
+        std::memcpy(to, &first, sizeof first);
+        std::memcpy(to + size - sizeof last, &last, sizeof last);
+    };
+    if (size >= 8) {
+        if (size > 16) {
+            std::memcpy(to, from, size);
+        } else {
+            both_ends(std::uint64_t{});
+        }
+    } else if (size >= 4) {
+        both_ends(std::uint32_t{});
+    } else if (size >= 2) {
+        both_ends(std::uint16_t{});
+    } else if (size == 1) {
+        *to = *from;
+    }
+    return to + size;
+}
+
+} // namespace l2fib
