@@ -1,0 +1,41 @@
+// What the targets' inputs begin with, and what a call of the library is given.
+#pragma once
+
+#include "common/stored.h"
+#include "fuzz/exact_copy.h"
+
+namespace l2fib
+{
+
+/// How a target calls the library. In host order; what an input is too short for is 0.
+struct Call {
+    enum Choice : std::uint8_t { without_show_data = 1, context_as_received = 2 };
+
+    U32 objtype;
+    U32 direction;
+    U32 view_flags;
+    U32 level;
+    U8 function; ///< which one, of a target that calls several
+    U8 choices;
+
+    // The router's answers.
+    U32 card_type;
+    U64 monotonic_seconds;
+    U64 nanoseconds;
+    U32 ifhandle_status;
+    U8 ifhandle_is_virtual;
+
+    [[nodiscard]] bool has(Choice choice) const { return (choices & choice) != 0; }
+};
+
+/// An input of a target, taken apart; the router answers as it says until the next one comes.
+struct CallInput {
+    explicit CallInput(std::span<const std::uint8_t> input);
+
+    Call call{};
+    ExactCopy show_data;
+    std::uint8_t *data; ///< null for a call without show data; its size is passed all the same
+    std::uint32_t level;
+};
+
+} // namespace l2fib

@@ -1,0 +1,47 @@
+// Proves that any line can be read as a capture, that what is read is what the line says, that it is written as a line
+// which is read as the same, and that showing it keeps to its show data.
+#include "client/capture.h"
+#include "client/hex.h"
+#include "fuzz/exact_copy.h"
+#include "fuzz/target.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+namespace l2fib
+{
+
+static std::string lower(std::string digits)
+{
+    std::transform(digits.begin(), digits.end(), digits.begin(),
+                   [](char c) { return c >= 'A' && c <= 'F' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return digits;
+}
+
+static void check(std::string_view line)
+{
+    const CaptureLine read = parse_capture(line);
+    if (!read.error.empty()) {
+        return;
+    }
+    const Capture &capture = read.capture;
+    const auto members = nlohmann::json::parse(line);
+    require(lower(members.at("show_data")) == hex_of_bytes(capture.show_data), "the show data is the line's");
+    require(members.at("object") == capture.object->name, "the object is the line's");
+
+    const std::string written = format_capture(capture);
+    const CaptureLine again = parse_capture(written);
+    require(again.error.empty(), "what is written can be read");
+    require(format_capture(again.capture) == written, "what is read again is the same");
+
+    const ExactCopy show_data(capture.show_data);
+    capture.show({show_data.data(), show_data.size()});
+}
+
+} // namespace l2fib
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    l2fib::check({reinterpret_cast<const char *>(data), size});
+    return 0;
+}

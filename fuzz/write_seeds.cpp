@@ -1,0 +1,129 @@
+// Writes the inputs that the targets start from, made of the sample captures: write-seeds DIRECTORY
+#include "client/hex.h"
+#include "client/objects.h"
+#include "examples/sample_lines.h"
+#include "examples/show_data_builder.h"
+#include "fuzz/call.h"
+#include "fuzz/functions.h"
+#include "zel_l2fib/show.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+namespace l2fib
+{
+
+class SeedWriter
+{
+public:
+    explicit SeedWriter(std::filesystem::path directory) : directory_(std::move(directory)) {}
+
+    void write(const char *target, const std::string &name, std::string_view seed)
+    {
+        std::filesystem::create_directories(directory_ / target);
+        std::ofstream file(directory_ / target / name, std::ios::binary);
+        file << seed;
+        all_written_ = all_written_ && file.flush();
+    }
+    void write(const char *target, const std::string &name, const Call &call,
+               const std::vector<std::uint8_t> &show_data)
+    {
+        std::string seed(reinterpret_cast<const char *>(&call), sizeof call);
+        seed.append(show_data.begin(), show_data.end());
+        write(target, name, seed);
+    }
+
+    [[nodiscard]] bool all_written() const { return all_written_; }
+
+private:
+    std::filesystem::path directory_;
+    bool all_written_ = true;
+};
+
+static Call call_for(const SampleCapture &sample)
+{
+    constexpr std::uint32_t supported_card = 0x1e1000;
+    constexpr std::uint64_t uptime = 1'000'000;
+    Call call{};
+    set_as_stored(call.objtype, row_named(objects(), sample.object)->objtype);
+    set_as_stored(call.direction, row_named(directions(), sample.direction)->number);
+    set_as_stored(call.view_flags, row_named(views(), sample.view)->number);
+    set_as_stored(call.card_type, supported_card);
+    set_as_stored(call.monotonic_seconds, uptime);
+    return call;
+}
+
+/// The function that shows a summary; none for another sample.
+static std::optional<SummaryFunction> summary_function(std::string_view object)
+{
+    constexpr std::pair<std::string_view, SummaryFunction> functions[] = {{"summary", state_summary},
+                                                                          {"counters", event_statistics},
+                                                                          {"hal-summary", hal_summary},
+                                                                          {"resources", resources}};
+    for (const auto &[name, function] : functions) {
+        if (name == object) {
+            return function;
+        }
+    }
+    return std::nullopt;
+}
+
+/// A dump as xxd has it, in lines of 16 bytes.
+static std::string xxd_of(const std::string &digits)
+{
+    constexpr std::size_t line_digits = 32;
+    std::string text;
+    for (std::size_t at = 0; at < digits.size(); at += line_digits) {
+        std::array<char, sizeof "00000000: "> offset{};
+        std::snprintf(offset.data(), offset.size(), "%08zx: ", at / 2);
+        text += offset.data() + digits.substr(at, line_digits) + "  ................\n";
+    }
+    return text;
+}
+
+static void write_seeds(SeedWriter &seeds, const SampleCapture &sample)
+{
+    const std::string name = sample.name;
+    const std::vector<std::uint8_t> show_data = sample.make();
+    Call call = call_for(sample);
+    if (const auto function = summary_function(sample.object)) {
+        set_as_stored(call.function, *function);
+        seeds.write("summaries", name, call, show_data);
+    }
+    seeds.write("front-door", name, call, show_data);
+    set_as_stored(call.function, by_view_flags);
+    seeds.write("hardware", name, call, show_data);
+    if (call.view_flags == L2FIB_VIEW_INCONSISTENT) {
+        seeds.write("tlv", name, call, show_data);
+    }
+
+    const std::string line = sample_line(sample);
+    seeds.write("capture", name, line);
+    seeds.write("lines", name, '\x50' + line + '\n' + line.substr(0, 70) + "\n\n" + line);
+    const std::string digits = hex_of_bytes(show_data);
+    constexpr std::size_t enough = 200;
+    seeds.write("dump", name + "-plain", '\xff' + digits.substr(0, enough));
+    seeds.write("dump", name + "-xxd", '\xff' + xxd_of(digits.substr(0, enough)));
+}
+
+} // namespace l2fib
+
+int main(int argc, char **argv)
+{
+    if (argc != 2) {
+        std::cerr << "usage: write-seeds DIRECTORY\n";
+        return 2;
+    }
+    l2fib::SeedWriter seeds(argv[1]);
+    for (const l2fib::SampleCapture &sample : l2fib::sample_captures) {
+        l2fib::write_seeds(seeds, sample);
+    }
+    seeds.write("dump", "hexdump",
+                "\xff"
+                "00000000  00 01 02 03 04 05 06 07  08 09 0a 0b 0c 0d 0e 0f  |................|\n"
+                "*\n"
+                "00000020  41 42 43  |ABC|\n"
+                "00000023\n");
+    return seeds.all_written() ? 0 : 1;
+}
