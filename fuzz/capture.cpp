@@ -28,6 +28,9 @@ static void check(std::string_view line)
     const auto members = nlohmann::json::parse(line);
     require(lower(members.at("show_data")) == hex_of_bytes(capture.show_data), "the show data is the line's");
     require(members.at("object") == capture.object->name, "the object is the line's");
+    constexpr std::size_t xid_size = 4;
+    require(!capture.object->xid(capture.show_data) || capture.show_data.size() >= xid_size,
+            "a cross-connect ID is in the show data");
 
     const std::string written = format_capture(capture);
     const CaptureLine again = parse_capture(written);

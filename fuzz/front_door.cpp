@@ -1,16 +1,44 @@
 // Proves that zel_l2fib_print_internal keeps to the show data, whatever it is asked for and whatever the router
-// answers: every object type and codes that are none, every view and direction, any size.
+// answers: every object type and codes that are none, every view and direction, any size. The RP's views prove the same
+// when they are called by themselves with the RP context that their callers promise.
 #include "fuzz/call.h"
+#include "fuzz/functions.h"
 #include "fuzz/shape.h"
 #include "fuzz/target.h"
+#include "rp/context_end.h"
 #include "zel_l2fib/show.h"
+
+namespace l2fib
+{
+
+static auto function_of(std::uint8_t number)
+{
+    switch (number % object_functions) {
+    case detail: return zel_l2fib_print_internal_detail;
+    case private_view: return zel_l2fib_print_internal_private;
+    case inconsistent: return zel_l2fib_print_internal_inconsistent;
+    default: return zel_l2fib_print_internal;
+    }
+}
+
+static bool keeps_promise(const CallInput &input)
+{
+    const bool is_private = input.call.function % object_functions == private_view;
+    const ShowData data(input.data, input.show_data.size());
+    return data.is_null() || data.size() >= context_end(is_private, input.call.objtype, data);
+}
+
+} // namespace l2fib
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const l2fib::CallInput input({data, size});
-    const l2fib::Call &call = input.call;
+    using namespace l2fib;
+    const CallInput input({data, size});
+    const Call &call = input.call;
+    const bool is_promised = call.function % object_functions == inconsistent || keeps_promise(input);
+    const auto show = is_promised ? function_of(call.function) : zel_l2fib_print_internal;
     constexpr std::uint32_t node = 0;
-    zel_l2fib_print_internal(call.objtype, node, call.direction, call.view_flags, input.data, input.show_data.size());
+    show(call.objtype, node, call.direction, call.view_flags, input.data, input.show_data.size());
     return 0;
 }
 

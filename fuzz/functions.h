@@ -8,6 +8,6 @@ namespace l2fib
 
 enum SummaryFunction : std::uint8_t { state_summary, event_statistics, hal_summary, resources, summary_functions };
 
-enum HardwareFunction : std::uint8_t { by_view_flags, detail, private_view, inconsistent, hardware_functions };
+enum ObjectFunction : std::uint8_t { by_view_flags, detail, private_view, inconsistent, object_functions };
 
 } // namespace l2fib

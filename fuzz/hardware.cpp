@@ -27,7 +27,7 @@ static void show(const CallInput &input)
     const std::uint64_t size = input.show_data.size();
     constexpr std::uint32_t node = 0;
     constexpr std::uint32_t card_type = 1;
-    switch (call.function % hardware_functions) {
+    switch (call.function % object_functions) {
     case detail:
         zel_l2fib_trident_print_internal_detail(input.level, call.objtype, card_type, call.direction, call.view_flags,
                                                 input.data, size);

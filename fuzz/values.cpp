@@ -21,6 +21,21 @@ static void convert(const ValuesInput &input)
     }
 }
 
+/// The hardware's part of a bridge begins behind what the sizes add up to, so that more NPs never take less.
+static void measure(const ValuesInput &input)
+{
+    const auto np_count = static_cast<std::uint8_t>(input.head.number.value());
+    const auto block = static_cast<std::uint8_t>(input.head.number >> 8U);
+    if (np_count != 0) {
+        const auto fewer = static_cast<std::uint8_t>(np_count - 1);
+        require(zel_l2fib_data_size(input.head.objtype, np_count) >= zel_l2fib_data_size(input.head.objtype, fewer),
+                "an object of more NPs is no smaller");
+        require(zel_l2fib_hal_brg_feature_data_size(block, np_count) >=
+                    zel_l2fib_hal_brg_feature_data_size(block, fewer),
+                "a feature block of more NPs is no smaller");
+    }
+}
+
 /// A text has room for a terminator, and the result tells its length as snprintf does.
 template <class Write>
 static void format(std::size_t capacity, const Write &write)
@@ -68,6 +83,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const l2fib::ValuesInput input({data, size});
     l2fib::convert(input);
+    l2fib::measure(input);
     l2fib::format_all(input);
     l2fib::print_all(input);
     return 0;

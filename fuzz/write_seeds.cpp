@@ -125,5 +125,9 @@ int main(int argc, char **argv)
                 "*\n"
                 "00000020  41 42 43  |ABC|\n"
                 "00000023\n");
+    seeds.write("capture", "every-member",
+                R"({"object": "ac", "node": 18, "card": "0x1e1003", "direction": "egress", "view": "private", )"
+                R"("monotonic_seconds": 12, "wall_seconds": "1763900000", "time_zone": "<+03>-3", )"
+                R"("virtual_interfaces": ["0x80000c0", 7], "note": [{"by": null}, true, -1.5], "show_data": "00"})");
     return seeds.all_written() ? 0 : 1;
 }
