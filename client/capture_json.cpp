@@ -17,12 +17,10 @@ struct Draft {
     std::optional<std::uint64_t> wall_seconds;
     bool has_show_data = false;
     std::optional<std::vector<std::uint8_t>> show_data_apart; ///< read ahead of the members
+    std::string stand_in;                                     ///< what the parser is given in place of their digits
     std::size_t broken_at = 0;                                ///< the byte at which it is no JSON
     std::string error;
 };
-
-/// What the parser is given in place of the digits of show data that is read already.
-constexpr const char *digits_apart = "*";
 
 /// Notes why a member is not taken. Returns false.
 static bool refuse(Draft &draft, const std::string &why)
@@ -49,7 +47,8 @@ static bool set_row(Draft &draft, const Row *&field, std::span<const Row> table,
 
 static bool set_show_data(Draft &draft, const std::string &text)
 {
-    auto bytes = text == digits_apart ? std::exchange(draft.show_data_apart, std::nullopt) : bytes_of_hex(text);
+    auto bytes = draft.show_data_apart && text == draft.stand_in ? std::exchange(draft.show_data_apart, std::nullopt)
+                                                                 : bytes_of_hex(text);
     if (!bytes) {
         return refuse(draft, "not pairs of hex digits");
     }
@@ -237,12 +236,16 @@ static bool read_line(CaptureReader &reader, std::string_view line)
     if (digits.empty() || !reader.draft.show_data_apart) {
         return Json::sax_parse(line, &reader);
     }
+    // Longer than any other text that the line can hold: the digits that were found may be of another member.
+    std::string &stand_in = reader.draft.stand_in;
+    stand_in.assign(line.size() - digits.size(), '*');
     std::string rest(line.substr(0, begin));
-    rest += digits_apart;
+    rest += stand_in;
     rest += line.substr(begin + digits.size());
     const bool is_read = Json::sax_parse(rest, &reader);
     if (reader.draft.broken_at > begin) {
-        reader.draft.broken_at += digits.size() - 1;
+        reader.draft.broken_at += digits.size();
+        reader.draft.broken_at -= stand_in.size();
     }
     return is_read;
 }
