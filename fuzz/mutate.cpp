@@ -62,6 +62,7 @@ std::size_t mutate(ShapeOf shape_of, std::uint8_t *data, std::size_t size, std::
         case 1:
         case 2:
         case 3:
+        case 4:
             if (!shape.fields().empty()) {
                 change(data, one_of(shape.fields(), random), random);
                 break;

@@ -1,10 +1,13 @@
 // Writes the inputs that the targets start from, made of the sample captures: write-seeds DIRECTORY
+#include "client/capture.h"
 #include "client/hex.h"
-#include "client/objects.h"
+#include "common/show_data.h"
 #include "examples/sample_lines.h"
 #include "examples/show_data_builder.h"
 #include "fuzz/call.h"
 #include "fuzz/functions.h"
+#include "rp/ac_context.h"
+#include "rp/names.h"
 #include "zel_l2fib/show.h"
 
 #include <filesystem>
@@ -107,6 +110,23 @@ static void write_seeds(SeedWriter &seeds, const SampleCapture &sample)
     seeds.write("dump", name + "-xxd", '\xff' + xxd_of(digits.substr(0, enough)));
 }
 
+/// What makes the library ask its router: an interface that may be virtual, and stamps without the clocks to go with
+/// them.
+static void write_seeds_that_ask(SeedWriter &seeds)
+{
+    Capture unbound;
+    unbound.object = row_named(objects(), "ac");
+    unbound.show_data = make_local_switch_ac();
+    set(ShowData::promised<AcShowData>(unbound.show_data.data()).context.state, state_unbound);
+    unbound.router.virtual_interfaces = {0};
+    seeds.write("capture", "unbound-ac", format_capture(unbound));
+
+    Capture stamped;
+    stamped.object = row_named(objects(), "bridge");
+    stamped.show_data = make_bridge_ingress();
+    seeds.write("capture", "without-clocks", format_capture(stamped));
+}
+
 } // namespace l2fib
 
 int main(int argc, char **argv)
@@ -119,6 +139,7 @@ int main(int argc, char **argv)
     for (const l2fib::SampleCapture &sample : l2fib::sample_captures) {
         l2fib::write_seeds(seeds, sample);
     }
+    l2fib::write_seeds_that_ask(seeds);
     seeds.write("dump", "hexdump",
                 "\xff"
                 "00000000  00 01 02 03 04 05 06 07  08 09 0a 0b 0c 0d 0e 0f  |................|\n"
