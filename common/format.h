@@ -58,8 +58,8 @@ constexpr std::string_view printf_argument(const Text<capacity> &text)
 struct Conversion {
     enum Kind : std::uint8_t { none, decimal, unsigned_decimal, hex, upper_hex, string };
 
-    std::uint16_t literal = 0; ///< characters of the format in front of it
-    std::uint8_t size = 0;     ///< characters of the format that say all this
+    std::uint16_t at = 0;      ///< where in the format the text in front of it begins
+    std::uint16_t literal = 0; ///< characters of that text
     std::uint8_t width = 0;
     Kind kind = none; ///< none behind the last argument
     bool left_aligned = false;
@@ -73,29 +73,33 @@ public:
     // Implicit, so that a format is written as the string that it is.
     consteval Format(const char *text) : text_(text)
     {
-        std::string_view rest = text;
-        for (std::size_t argument = 0; argument < sizeof...(Args); ++argument) {
-            conversions_[argument] = take_conversion(rest, is_text[argument], is_long[argument]);
+        const std::string_view whole = text;
+        std::string_view rest = whole;
+        for (std::size_t argument = 0; argument <= sizeof...(Args); ++argument) {
+            Conversion &conversion = conversions_[argument];
+            conversion.at = static_cast<std::uint16_t>(whole.size() - rest.size());
+            conversion.literal = take_literal(rest);
+            if (argument < sizeof...(Args)) {
+                take_conversion(rest, conversion, is_text[argument], is_long[argument]);
+            }
+            constexpr std::size_t longest_number = 20;
+            room_ += conversion.literal + std::max<std::size_t>(conversion.width, longest_number);
         }
-        conversions_[sizeof...(Args)].literal = take_literal(rest);
-        if (!rest.empty() || room() > max_room) {
+        if (!rest.empty() || room_ > max_room) {
             does_not_fit_its_arguments();
         }
     }
 
+    /// The conversion of an argument; that behind the last one has the text behind it.
+    [[nodiscard]] constexpr const Conversion &conversion(std::size_t argument) const { return conversions_[argument]; }
+    [[nodiscard]] constexpr const char *literal(std::size_t argument) const
+    {
+        return text_ + conversions_[argument].at;
+    }
     [[nodiscard]] constexpr const char *text() const { return text_; }
-    [[nodiscard]] constexpr const Conversion *conversions() const { return conversions_; }
 
     /// The characters that it makes at most, beside those of strings.
-    [[nodiscard]] constexpr std::size_t room() const
-    {
-        constexpr std::size_t longest_number = 20;
-        std::size_t room = 0;
-        for (const Conversion &conversion : conversions_) {
-            room += conversion.literal + std::max<std::size_t>(conversion.width, longest_number);
-        }
-        return room;
-    }
+    [[nodiscard]] constexpr std::size_t room() const { return room_; }
     static constexpr std::size_t max_room = 1024;
 
 private:
@@ -111,11 +115,8 @@ private:
         return static_cast<std::uint16_t>(size);
     }
 
-    static constexpr Conversion take_conversion(std::string_view &rest, bool is_text, bool is_long)
+    static constexpr void take_conversion(std::string_view &rest, Conversion &conversion, bool is_text, bool is_long)
     {
-        Conversion conversion;
-        conversion.literal = take_literal(rest);
-        const std::size_t begin = rest.size();
         if (!take(rest, '%')) {
             does_not_fit_its_arguments();
         }
@@ -135,8 +136,6 @@ private:
             is_said_long != (is_long && !is_text)) {
             does_not_fit_its_arguments();
         }
-        conversion.size = static_cast<std::uint8_t>(begin - rest.size());
-        return conversion;
     }
 
     static constexpr bool take(std::string_view &rest, char c)
@@ -149,6 +148,7 @@ private:
     static void does_not_fit_its_arguments() {} // not constexpr: reaching it is the compiler's error
 
     const char *text_;
+    std::size_t room_ = 0;
     Conversion conversions_[sizeof...(Args) + 1];
 };
 

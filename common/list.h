@@ -27,20 +27,21 @@ public:
 
     /// Text in front of the first item; it takes room on the line but is no item.
     template <class... Args>
-    void text(Format<std::type_identity_t<Args>...> format, const Args &...args)
+    [[gnu::always_inline]] void text(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
         column_ += out_.text<Args...>(format, args...);
     }
 
     template <class... Args>
-    void item(Format<std::type_identity_t<Args>...> format, const Args &...args)
+    [[gnu::always_inline]] void item(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
         separate();
         text<Args...>(format, args...);
     }
 
     template <class... Args>
-    void item_if(bool condition, Format<std::type_identity_t<Args>...> format, const Args &...args)
+    [[gnu::always_inline]] void item_if(bool condition, const Format<std::type_identity_t<Args>...> &format,
+                                        const Args &...args)
     {
         if (condition) {
             item<Args...>(format, args...);
@@ -58,10 +59,10 @@ public:
     }
 
     /// The column at which the line begins.
-    [[nodiscard]] int indentation() const { return indentation_; }
+    [[nodiscard]] std::int64_t indentation() const { return indentation_; }
 
     /// Has the items from here on continue at another column.
-    void continue_at(int column) { continuation_ = column; }
+    void continue_at(std::int64_t column) { continuation_ = column; }
 
     /// What a list of flags shows when none was set.
     void none_if_empty()
@@ -72,13 +73,26 @@ public:
     }
 
 private:
-    void separate();
+    static constexpr int wrap_column = 70;
 
+    void separate()
+    {
+        if (column_ > wrap_column) {
+            wrap();
+        } else if (items_ > 0) {
+            text(", ");
+        }
+        ++items_;
+    }
+
+    void wrap();
+
+    // Wide enough for the columns of any level.
     Output &out_;
-    int indentation_;
-    int column_;
-    int continuation_;
-    int items_ = 0;
+    std::int64_t indentation_;
+    std::int64_t column_;
+    std::int64_t continuation_;
+    unsigned items_ = 0;
 };
 
 /// A line with the texts of a flag table for a word, "None" when there are none.

@@ -65,7 +65,20 @@ static unsigned hex_digits(std::uint64_t value)
     return (bit_width(value | 1U) + 3) / 4;
 }
 
-char *write_number(char *at, const Conversion &conversion, std::uint64_t value)
+char *write_decimal(char *at, std::uint64_t value)
+{
+    const unsigned count = decimal_digits(value);
+    write_digits<10>(at + count, count, value, decimal_pairs);
+    return at + count;
+}
+
+char *write_zero_filled_hex(char *at, unsigned width, std::uint64_t value)
+{
+    write_digits<16>(at + width, width, value, hex_pairs);
+    return at + width;
+}
+
+char *write_padded_number(char *at, const Conversion &conversion, std::uint64_t value)
 {
     const bool is_negative = conversion.kind == Conversion::decimal && (value >> 63U) != 0;
     const std::uint64_t magnitude = is_negative ? 0 - value : value;

@@ -14,34 +14,32 @@ void Output::flush()
     next_ = buffer_;
 }
 
-int Output::many_blanks(std::uint64_t count)
+void Output::put_many(char c, std::uint64_t count)
 {
-    for (std::uint64_t left = count; left != 0;) {
+    while (count != 0) {
         reserve(1);
-        const auto fitting = std::min<std::uint64_t>(left, static_cast<std::size_t>(buffer_ + buffer_size - next_));
-        std::memset(next_, ' ', fitting);
+        const auto fitting = std::min<std::uint64_t>(count, static_cast<std::size_t>(buffer_ + buffer_size - next_));
+        std::memset(next_, c, fitting);
         next_ += fitting;
-        left -= fitting;
+        count -= fitting;
     }
-    return static_cast<int>(count);
 }
 
-void Output::put_string(const Conversion &conversion, std::string_view string, std::size_t room)
+void Output::put_string(std::size_t width, bool left_aligned, std::string_view string, std::size_t room)
 {
-    const std::size_t size = string.size();
-    const std::size_t padding = conversion.width > size ? conversion.width - size : 0;
-    if (!conversion.left_aligned) {
-        blanks(static_cast<std::int64_t>(padding));
+    const std::size_t padding = width > string.size() ? width - string.size() : 0;
+    if (!left_aligned) {
+        repeat(' ', padding);
     }
-    if (size <= buffer_size) {
-        reserve(size);
-        next_ = copy(next_, string.data(), size);
+    if (string.size() <= buffer_size) {
+        reserve(string.size());
+        next_ = copy(next_, string.data(), string.size());
     } else {
         flush();
-        flushed_ += std::fwrite(string.data(), 1, size, stream_);
+        flushed_ += std::fwrite(string.data(), 1, string.size(), stream_);
     }
-    if (conversion.left_aligned) {
-        blanks(static_cast<std::int64_t>(padding));
+    if (left_aligned) {
+        repeat(' ', padding);
     }
     reserve(room);
 }

@@ -27,25 +27,27 @@ public:
 
     /// Text as it stands. Returns the number of characters, as do the others.
     template <class... Args>
-    int text(Format<std::type_identity_t<Args>...> format, const Args &...args)
+    [[gnu::always_inline]] int text(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
-        const std::uint64_t begin = printed();
-        reserve(format.room());
-        Position position{format.text(), format.conversions(), format.room()};
-        (put(position, printf_argument(args)), ...);
-        put_literal(position);
-        return static_cast<int>(printed() - begin);
+        return text(format, std::index_sequence_for<Args...>(), printf_argument(args)...);
+    }
+
+    /// One character over and over.
+    void repeat(char c, std::uint64_t count)
+    {
+        if (count > few) {
+            put_many(c, count);
+        } else {
+            reserve(few);
+            next_ = fill(next_, c, count);
+        }
     }
 
     /// As many blanks as printf pads a width with. One that overflowed to a negative number pads as well.
     int blanks(std::int64_t width)
     {
-        if (width < 0 || width > few_blanks) {
-            return many_blanks(static_cast<std::uint64_t>(width < 0 ? -width : width));
-        }
-        reserve(few_blanks);
-        next_ = fill(next_, ' ', static_cast<std::size_t>(width));
-        return static_cast<int>(width);
+        repeat(' ', static_cast<std::uint64_t>(width < 0 ? -width : width));
+        return static_cast<int>(width < 0 ? -width : width);
     }
 
     /// The blanks in front of a line, two a level.
@@ -61,7 +63,8 @@ public:
 
     /// Opens a new line and prints its text.
     template <class... Args>
-    void line(std::uint32_t level, Format<std::type_identity_t<Args>...> format, const Args &...args)
+    [[gnu::always_inline]] void line(std::uint32_t level, const Format<std::type_identity_t<Args>...> &format,
+                                     const Args &...args)
     {
         line(level);
         text<Args...>(format, args...);
@@ -69,7 +72,8 @@ public:
 
     /// The line that a show command begins with: there is none before it to end.
     template <class... Args>
-    void first_line(std::uint32_t level, Format<std::type_identity_t<Args>...> format, const Args &...args)
+    [[gnu::always_inline]] void first_line(std::uint32_t level, const Format<std::type_identity_t<Args>...> &format,
+                                           const Args &...args)
     {
         indent(level);
         text<Args...>(format, args...);
@@ -77,16 +81,10 @@ public:
 
 private:
     static constexpr std::size_t buffer_size = 4096;
-    static constexpr int few_blanks = 128;
+    static constexpr std::size_t short_string = 64;
+    static constexpr std::uint64_t few = 128;
 
-    int many_blanks(std::uint64_t count);
-
-    /// How far a format is printed.
-    struct Position {
-        const char *literal;
-        const Conversion *conversion;
-        std::size_t room; ///< that the rest takes at most
-    };
+    void put_many(char c, std::uint64_t count);
 
     [[nodiscard]] std::uint64_t printed() const { return flushed_ + static_cast<std::uint64_t>(next_ - buffer_); }
 
@@ -98,34 +96,51 @@ private:
         }
     }
 
-    void put_literal(Position &position)
+    // Inlined down to the characters, the compiler knows the format of each call, and what is left is what it prints.
+    template <class AnyFormat, std::size_t... indices, class... Values>
+    [[gnu::always_inline]] int text(const AnyFormat &format, std::index_sequence<indices...> /*all*/, Values... values)
     {
-        const Conversion &conversion = *position.conversion;
-        next_ = copy(next_, position.literal, conversion.literal);
-        position.literal += conversion.literal + conversion.size;
+        reserve(format.room());
+        const std::uint64_t begin = printed();
+        (put(format, indices, values), ...);
+        put_literal(format, sizeof...(Values));
+        return static_cast<int>(printed() - begin);
     }
 
-    void put(Position &position, std::string_view string)
+    template <class AnyFormat>
+    [[gnu::always_inline]] void put_literal(const AnyFormat &format, std::size_t index)
     {
-        put_literal(position);
-        put_string(*position.conversion++, string, position.room);
+        next_ = copy(next_, format.literal(index), format.conversion(index).literal);
     }
 
-    template <class Integer>
-    void put(Position &position, Integer value)
+    template <class AnyFormat>
+    [[gnu::always_inline]] void put(const AnyFormat &format, std::size_t index, std::string_view string)
     {
-        put_literal(position);
-        const Conversion &conversion = *position.conversion++;
+        put_literal(format, index);
+        const Conversion &conversion = format.conversion(index);
+        if (conversion.width == 0 && string.size() <= short_string) {
+            next_ = copy(next_, string.data(), string.size());
+            reserve(format.room());
+        } else {
+            put_string(conversion.width, conversion.left_aligned, string, format.room());
+        }
+    }
+
+    template <class AnyFormat, class Integer>
+    [[gnu::always_inline]] void put(const AnyFormat &format, std::size_t index, Integer value)
+    {
+        put_literal(format, index);
+        const Conversion &conversion = format.conversion(index);
         next_ = write_number(next_, conversion, number_bits(conversion.kind, value));
     }
 
     /// A string, and room behind it for what follows.
-    void put_string(const Conversion &conversion, std::string_view string, std::size_t room);
+    void put_string(std::size_t width, bool left_aligned, std::string_view string, std::size_t room);
 
     std::FILE *stream_;
     std::uint64_t flushed_ = 0; // characters handed to the stream
     char *next_ = buffer_;
-    char buffer_[buffer_size + fill_slack];
+    char buffer_[buffer_size + short_string + fill_slack]; // the ends are for what is written without asking
 };
 
 } // namespace l2fib

@@ -4,7 +4,7 @@ namespace l2fib
 {
 
 // In words that overlap: most texts are shorter than a call of memcpy is worth.
-char *copy(char *to, const char *from, std::size_t size)
+char *copy_text(char *to, const char *from, std::size_t size)
 {
     const auto both_ends = [=]<class Word>(Word first) {
         Word last;

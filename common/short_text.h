@@ -11,8 +11,18 @@ namespace l2fib
 /// Bytes that fill() may write behind its end.
 constexpr std::size_t fill_slack = 16;
 
-/// Copies `size` bytes. Returns the end.
-char *copy(char *to, const char *from, std::size_t size);
+/// Copies a text of any size. Returns the end.
+char *copy_text(char *to, const char *from, std::size_t size);
+
+/// Copies `size` bytes: at once where the compiler knows how many. Returns the end.
+[[gnu::always_inline]] inline char *copy(char *to, const char *from, std::size_t size)
+{
+    if (__builtin_constant_p(size)) {
+        std::memcpy(to, from, size);
+        return to + size;
+    }
+    return copy_text(to, from, size);
+}
 
 /// Fills `size` bytes, and some more behind them. Returns the end.
 inline char *fill(char *to, char with, std::size_t size)

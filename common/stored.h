@@ -121,6 +121,17 @@ class Packed
         return fields;
     }();
 
+    static constexpr unsigned leading_flags = [] {
+        const FieldRun first = std::array{runs...}.front();
+        return first.width == 1 ? first.count : 0;
+    }();
+
+    static constexpr auto wide_fields = [] {
+        std::array<Field, ((runs.width == 1 ? 0 : runs.count) + ...)> fields{};
+        std::copy_if(layout.begin(), layout.end(), fields.begin(), [](Field field) { return field.width != 1; });
+        return fields;
+    }();
+
     static constexpr Bits mask(Field field)
     {
         return static_cast<Bits>(static_cast<Bits>(~Bits{0}) >> (word_width - field.width));
@@ -131,19 +142,23 @@ public:
     {
         return static_cast<Bits>(word.value() >> layout[field].start) & mask(layout[field]);
     }
-    [[nodiscard]] constexpr bool test(unsigned field) const { return get(field) != 0; }
+    [[nodiscard]] constexpr bool test(unsigned field) const
+    {
+        // The leading fields are mostly flags, whose number is their bit.
+        if (leading_flags == field_count || field < leading_flags) {
+            return (word.value() >> field & 1U) != 0;
+        }
+        return get(field) != 0;
+    }
 
     constexpr void to_host()
     {
         // Turned round, every field is where the host has it; those of several bits are then the wrong way round.
         Bits host = bits_reversed(word.from_wire());
-        for (const Field field : layout) {
-            if (field.width > 1) {
-                const auto turned = static_cast<Bits>(static_cast<Bits>(host >> field.start) & mask(field));
-                const auto value = static_cast<Bits>(bits_reversed(turned) >> (word_width - field.width));
-                host =
-                    static_cast<Bits>((host & ~static_cast<Bits>(mask(field) << field.start)) | value << field.start);
-            }
+        for (const Field field : wide_fields) {
+            const auto turned = static_cast<Bits>(static_cast<Bits>(host >> field.start) & mask(field));
+            const auto value = static_cast<Bits>(bits_reversed(turned) >> (word_width - field.width));
+            host = static_cast<Bits>((host & ~static_cast<Bits>(mask(field) << field.start)) | value << field.start);
         }
         const auto host_bytes = std::bit_cast<decltype(word.bytes)>(host);
         std::copy_n(host_bytes.begin(), (used_width + 7) / 8, word.bytes.begin());

@@ -39,7 +39,7 @@ public:
     Report(Output &out, std::uint32_t level) : out_(out), level_(level) {}
 
     template <class Value>
-    void value(std::uint8_t verdict, Format<std::type_identity_t<Value>> format, Value value)
+    void value(std::uint8_t verdict, const Format<std::type_identity_t<Value>> &format, Value value)
     {
         if (verdict != no_verdict) {
             verdict_ = verdict;
@@ -55,8 +55,8 @@ public:
     {
         constexpr std::uint64_t verdict_column = 73;
         if (verdict_ != no_verdict) {
-            for (; column_ < verdict_column; ++column_) {
-                out_.text(".");
+            if (column_ < verdict_column) {
+                out_.repeat('.', verdict_column - column_);
             }
             out_.text(" %s", verdict_name(verdict_));
             verdict_ = no_verdict;
@@ -68,7 +68,7 @@ public:
 
     /// Why the report ends here, on a line of its own. Returns the status.
     template <class... Args>
-    std::uint32_t error(Format<std::type_identity_t<Args>...> format, const Args &...args)
+    std::uint32_t error(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
         if (line_is_open_) {
             out_.text("\n");

@@ -16,7 +16,7 @@ public:
     TwoColumns(Output &out, const char *gap) : out_(out), gap_(gap) {}
 
     template <class... Args>
-    void item(Format<std::type_identity_t<Args>...> format, const Args &...args)
+    void item(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
         out_.text<Args...>(format, args...);
         out_.text("%s", is_right_ ? "\n" : gap_);
@@ -25,7 +25,7 @@ public:
 
     /// A value that has the line to itself.
     template <class... Args>
-    void line(Format<std::type_identity_t<Args>...> format, const Args &...args)
+    void line(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
         out_.text<Args...>(format, args...);
         out_.text("\n");
