@@ -15,10 +15,17 @@
 namespace l2fib
 {
 
-/// A text made for one item of output, with room for its terminator.
-template <std::size_t capacity>
+/// A text made for one item of output.
 struct Text {
-    char chars[capacity] = {};
+    static constexpr std::size_t capacity = 256;
+
+    Text() = default;
+    Text(std::string_view text) : size(text.copy(chars, capacity)) {}
+
+    [[nodiscard]] std::string_view view() const { return {chars, size}; }
+
+    char chars[capacity];
+    std::size_t size = 0;
 };
 
 /// A text of the code, whose length the compiler knows. As a row of a table it may be left out.
@@ -48,10 +55,9 @@ constexpr Integer printf_argument(const Stored<Integer> &field)
 {
     return field.value();
 }
-template <std::size_t capacity>
-constexpr std::string_view printf_argument(const Text<capacity> &text)
+inline std::string_view printf_argument(const Text &text)
 {
-    return text.chars;
+    return text.view();
 }
 
 /// What becomes of one argument, and the text in front of it.
@@ -102,6 +108,9 @@ public:
     [[nodiscard]] constexpr std::size_t room() const { return room_; }
     static constexpr std::size_t max_room = 1024;
 
+protected:
+    static void does_not_fit_its_arguments() {} // not constexpr: reaching it is the compiler's error
+
 private:
     template <class Arg>
     using Passed = decltype(printf_argument(std::declval<const Arg &>()));
@@ -144,8 +153,6 @@ private:
         rest.remove_prefix(is_next ? 1 : 0);
         return is_next;
     }
-
-    static void does_not_fit_its_arguments() {} // not constexpr: reaching it is the compiler's error
 
     const char *text_;
     std::size_t room_ = 0;

@@ -12,7 +12,7 @@
 namespace l2fib
 {
 
-Text<256> timestamp_text(std::uint64_t stamp)
+Text timestamp_text(std::uint64_t stamp)
 {
     constexpr std::uint64_t ns_per_second = 1'000'000'000;
     if (stamp == 0) {
@@ -26,29 +26,29 @@ Text<256> timestamp_text(std::uint64_t stamp)
     // The router counts wall-clock seconds in 32 bits.
     const std::time_t wall = static_cast<std::uint32_t>(wall_now - monotonic_seconds + stamp / ns_per_second);
     const std::tm *local = std::localtime(&wall);
-    Text<256> time;
-    if (local == nullptr || std::strftime(time.chars, sizeof time.chars, "%m/%d/%Y %H:%M:%S", local) == 0) {
-        return {"unknown_time"};
+    Text time;
+    if (local != nullptr) {
+        time.size = std::strftime(time.chars, Text::capacity, "%m/%d/%Y %H:%M:%S", local);
     }
-    return time;
+    return time.size != 0 ? time : Text{"unknown_time"};
 }
 
-Text<12> shg_text(std::uint32_t group)
+Text shg_text(std::uint32_t group)
 {
     switch (group) {
     case 0: return {"None"};
     case 1: return {"VFI Enabled"};
     case 2: return {"Enabled"};
-    default: return number_text<12>("%d", group);
+    default: return number_text("%d", group);
     }
 }
 
-Text<15> mac_text(const Bytes<6> &mac)
+Text mac_text(const Bytes<6> &mac)
 {
-    return number_text<15>("%02x%02x.%02x%02x.%02x%02x", mac[0], mac[1], mac[2], mac[3], mac[4], mac[5]);
+    return number_text("%02x%02x.%02x%02x.%02x%02x", mac[0], mac[1], mac[2], mac[3], mac[4], mac[5]);
 }
 
-Text<24> elapsed_text(std::uint64_t ns)
+Text elapsed_text(std::uint64_t ns)
 {
     const std::uint64_t ms = ns / 1'000'000;
     const std::uint64_t seconds = ns / 1'000'000'000;
@@ -60,34 +60,31 @@ Text<24> elapsed_text(std::uint64_t ns)
     }
     if (seconds <= 59 && ms % 1000 != 0) {
         // Milliseconds as a plain number: 2 s and 5 ms are "2.5 s ".
-        return number_text<24>("%lu.%lu s ", seconds, ms % 1000);
+        return number_text("%lu.%lu s ", seconds, ms % 1000);
     }
     if (seconds <= 59) {
-        return number_text<24>("%lu s", seconds); // the one form without a closing blank
+        return number_text("%lu s", seconds); // the one form without a closing blank
     }
     if (minutes <= 59) {
-        return number_text<24>("%lu m %lu s ", minutes, seconds - 60 * minutes);
+        return number_text("%lu m %lu s ", minutes, seconds - 60 * minutes);
     }
     if (hours <= 23) {
-        return number_text<24>("%u h %lu m ", hours, minutes - std::uint64_t{60} * hours);
+        return number_text("%u h %lu m ", hours, minutes - std::uint64_t{60} * hours);
     }
     if (days <= 99) {
-        return number_text<24>("%u d %u h ", days, hours - 24 * days);
+        return number_text("%u d %u h ", days, hours - 24 * days);
     }
-    return number_text<24>("%u d ", days);
+    return number_text("%u d ", days);
 }
 
 /// What snprintf does with a text, and what it returns.
-template <std::size_t size>
-static int store(const Text<size> &text, char *room, std::size_t capacity)
+static int store(const Text &text, char *room, std::size_t capacity)
 {
-    const std::size_t length = std::strlen(text.chars);
     if (capacity != 0) {
-        const std::size_t fitting = std::min(length, capacity - 1);
-        std::memcpy(room, text.chars, fitting);
+        const std::size_t fitting = text.view().copy(room, capacity - 1);
         room[fitting] = '\0';
     }
-    return static_cast<int>(length);
+    return static_cast<int>(text.size);
 }
 
 } // namespace l2fib

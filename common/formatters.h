@@ -10,15 +10,15 @@ namespace l2fib
 {
 
 /// The wall-clock time of a monotonic stamp in nanoseconds, "N/A" for a stamp of 0.
-Text<256> timestamp_text(std::uint64_t stamp);
+Text timestamp_text(std::uint64_t stamp);
 
 /// An elapsed time in nanoseconds.
-Text<24> elapsed_text(std::uint64_t ns);
+Text elapsed_text(std::uint64_t ns);
 
 /// A split-horizon group.
-Text<12> shg_text(std::uint32_t group);
+Text shg_text(std::uint32_t group);
 
 /// A MAC address in wire order: 0011.2233.4455.
-Text<15> mac_text(const Bytes<6> &mac);
+Text mac_text(const Bytes<6> &mac);
 
 } // namespace l2fib

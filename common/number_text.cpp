@@ -65,8 +65,27 @@ static unsigned hex_digits(std::uint64_t value)
     return (bit_width(value | 1U) + 3) / 4;
 }
 
+char *write_right_aligned_decimal(char *at, unsigned width, std::uint64_t value)
+{
+    const unsigned count = decimal_digits(value);
+    at = fill(at, ' ', width > count ? width - count : 0) + count;
+    write_digits<10>(at, count, value, decimal_pairs);
+    return at;
+}
+
+char *write_left_aligned_decimal(char *at, unsigned width, std::uint64_t value)
+{
+    char *end = write_decimal(at, value);
+    const auto size = static_cast<unsigned>(end - at);
+    return fill(end, ' ', width > size ? width - size : 0);
+}
+
 char *write_decimal(char *at, std::uint64_t value)
 {
+    if (value < 10) {
+        *at = static_cast<char>('0' + value);
+        return at + 1;
+    }
     const unsigned count = decimal_digits(value);
     write_digits<10>(at + count, count, value, decimal_pairs);
     return at + count;

@@ -10,8 +10,10 @@
 namespace l2fib
 {
 
-/// The common ones of write_number: without a width, and filled with zeros up to a width.
+/// The common ones of write_number: of no sign, and hex filled with zeros.
 char *write_decimal(char *at, std::uint64_t value);
+char *write_right_aligned_decimal(char *at, unsigned width, std::uint64_t value);
+char *write_left_aligned_decimal(char *at, unsigned width, std::uint64_t value);
 char *write_zero_filled_hex(char *at, unsigned width, std::uint64_t value);
 
 /// Any of them.
@@ -22,10 +24,15 @@ char *write_padded_number(char *at, const Conversion &conversion, std::uint64_t 
 [[gnu::always_inline]] inline char *write_number(char *at, const Conversion &conversion, std::uint64_t value)
 {
     const bool is_decimal = conversion.kind == Conversion::decimal || conversion.kind == Conversion::unsigned_decimal;
-    if (is_decimal && conversion.width == 0 && (conversion.kind == Conversion::unsigned_decimal || value >> 63U == 0)) {
-        return write_decimal(at, value);
+    if (is_decimal && !conversion.zero_filled &&
+        (conversion.kind == Conversion::unsigned_decimal || value >> 63U == 0)) {
+        if (conversion.width == 0) {
+            return write_decimal(at, value);
+        }
+        return conversion.left_aligned ? write_left_aligned_decimal(at, conversion.width, value)
+                                       : write_right_aligned_decimal(at, conversion.width, value);
     }
-    if (conversion.kind == Conversion::hex && conversion.zero_filled && conversion.width % 2 == 0 &&
+    if (conversion.kind == Conversion::hex && conversion.zero_filled && conversion.width != 0 &&
         value >> (4U * conversion.width) == 0) {
         return write_zero_filled_hex(at, conversion.width, value);
     }
@@ -44,25 +51,42 @@ constexpr std::uint64_t number_bits(Conversion::Kind kind, Integer value)
     return static_cast<std::make_unsigned_t<Passed>>(value);
 }
 
-/// The text of a format whose arguments are numbers, cut off where it does not fit.
-template <std::size_t capacity, class... Args>
-Text<capacity> number_text(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
+/// A format of numbers, whose text is sure to fit.
+template <class... Numbers>
+class NumberFormat : public Format<Numbers...>
 {
-    char room[Format<Args...>::max_room + fill_slack];
-    char *at = room;
-    std::size_t index = 0;
-    const auto write_literal = [&]() { at = copy_text(at, format.literal(index), format.conversion(index).literal); };
-    const auto write = [&](auto value) {
-        write_literal();
-        const Conversion &conversion = format.conversion(index++);
-        at = write_number(at, conversion, number_bits(conversion.kind, value));
-    };
-    (write(printf_argument(args)), ...);
-    write_literal();
+public:
+    consteval NumberFormat(const char *text) : Format<Numbers...>(text)
+    {
+        if (this->room() + fill_slack > Text::capacity) {
+            this->does_not_fit_its_arguments();
+        }
+    }
+};
 
-    Text<capacity> text;
-    copy_text(text.chars, room, std::min(static_cast<std::size_t>(at - room), capacity - 1));
+template <class... Numbers, std::size_t... indices>
+[[gnu::always_inline]] inline Text number_text(const NumberFormat<Numbers...> &format,
+                                               std::index_sequence<indices...> /*all*/, Numbers... numbers)
+{
+    Text text;
+    char *at = text.chars;
+    const auto write = [&](std::size_t index, auto number) __attribute__((always_inline))
+    {
+        const Conversion &conversion = format.conversion(index);
+        at = copy(at, format.literal(index), conversion.literal);
+        at = write_number(at, conversion, number_bits(conversion.kind, number));
+    };
+    (write(indices, numbers), ...);
+    at = copy(at, format.literal(sizeof...(numbers)), format.conversion(sizeof...(numbers)).literal);
+    text.size = static_cast<std::size_t>(at - text.chars);
     return text;
+}
+
+template <class... Numbers>
+[[gnu::always_inline]] inline Text number_text(const NumberFormat<std::type_identity_t<Numbers>...> &format,
+                                               Numbers... numbers)
+{
+    return number_text<Numbers...>(format, std::index_sequence_for<Numbers...>(), numbers...);
 }
 
 } // namespace l2fib

@@ -91,7 +91,8 @@ private:
     /// Makes room for so many characters, of at most a buffer.
     void reserve(std::size_t size)
     {
-        if (static_cast<std::size_t>(buffer_ + buffer_size - next_) < size) {
+        if (buffer_ + buffer_size - next_ <
+            static_cast<std::ptrdiff_t>(size)) { // less than nothing behind a short string
             flush();
         }
     }

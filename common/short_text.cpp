@@ -1,5 +1,7 @@
 #include "common/short_text.h"
 
+#include <array>
+
 namespace l2fib
 {
 
@@ -13,12 +15,12 @@ char *copy_text(char *to, const char *from, std::size_t size)
         std::memcpy(to, &first, sizeof first);
         std::memcpy(to + size - sizeof last, &last, sizeof last);
     };
-    if (size >= 8) {
-        if (size > 16) {
-            std::memcpy(to, from, size);
-        } else {
-            both_ends(std::uint64_t{});
-        }
+    if (size > 32) {
+        std::memcpy(to, from, size);
+    } else if (size >= 16) {
+        both_ends(std::array<std::uint64_t, 2>{});
+    } else if (size >= 8) {
+        both_ends(std::uint64_t{});
     } else if (size >= 4) {
         both_ends(std::uint32_t{});
     } else if (size >= 2) {

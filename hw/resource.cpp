@@ -119,8 +119,9 @@ static void print_count_totals(Output &out, const ColumnTotal (&totals)[resource
 /// A time, of which no more than nine characters are shown: "59 m 59 s" without its closing blank.
 static void print_time(Output &out, std::uint64_t time)
 {
-    Text<24> text = elapsed_text(time);
-    text.chars[9] = '\0';
+    constexpr std::size_t longest = 9;
+    Text text = elapsed_text(time);
+    text.size = std::min(text.size, longest);
     out.text("%11s", text);
 }
 

@@ -5,6 +5,10 @@
 #include "common/list.h"
 #include "platform/platform.h"
 
+#include <algorithm>
+#include <array>
+#include <span>
+
 namespace l2fib
 {
 
@@ -13,10 +17,10 @@ enum Group : std::uint8_t { base, set, clear, never };
 
 struct UidbFlagItem {
     UidbFlag flag;
-    const char *text;
+    Literal text;
     Group ingress;
     Group egress;
-    const char *text_when_clear = nullptr; // printed in place of the text, so that the item always stands
+    Literal text_when_clear = nullptr; // printed in place of the text, so that the item always stands
 };
 
 // In print order within each group. Two flags share the text "VPWS Remote Rack".
@@ -132,7 +136,7 @@ static consteval bool is_well_formed()
     for (const UidbFlagItem &item : uidb_flags) {
         const unsigned place = item.flag.byte << 8 | (0xffU - item.flag.mask);
         if (place <= last || std::popcount(item.flag.mask) != 1 || item.flag.byte < offsetof(UidbEntry, flags) ||
-            item.flag.byte >= offsetof(UidbEntry, unread_119) || *item.text == '\0') {
+            item.flag.byte >= offsetof(UidbEntry, unread_119) || item.text.size == 0) {
             return false;
         }
         last = place;
@@ -140,6 +144,21 @@ static consteval bool is_well_formed()
     return true;
 }
 static_assert(is_well_formed());
+
+/// The flags that a direction lists in one group, picked when the code is compiled.
+template <Group UidbFlagItem::*direction, Group group>
+static constexpr auto listed_flags = [] {
+    constexpr auto is_listed = [](const UidbFlagItem &item) { return item.*direction == group; };
+    constexpr auto count = std::count_if(std::begin(uidb_flags), std::end(uidb_flags), is_listed);
+    std::array<const UidbFlagItem *, count> listed{};
+    std::size_t next = 0;
+    for (const UidbFlagItem &item : uidb_flags) {
+        if (is_listed(item)) {
+            listed[next++] = &item;
+        }
+    }
+    return listed;
+}();
 
 static bool is_set(const UidbEntry &entry, UidbFlag flag)
 {
@@ -159,11 +178,19 @@ static void uidb_entry_to_host(UidbEntry &entry)
 static void print_flag_line(Output &out, std::uint32_t level, bool ingress, const UidbEntry &entry)
 {
     List line{out, level, "Flags"};
-    for (const Group group : {base, is_set(entry, UidbEntry::group_selector) ? set : clear}) {
-        for (const UidbFlagItem &item : uidb_flags) {
-            const char *text = is_set(entry, item.flag) ? item.text : item.text_when_clear;
-            line.item_if(text != nullptr && (ingress ? item.ingress : item.egress) == group, "%s", text);
+    const auto list = [&](std::span<const UidbFlagItem *const> items) {
+        for (const UidbFlagItem *item : items) {
+            const Literal &text = is_set(entry, item->flag) ? item->text : item->text_when_clear;
+            line.item_if(text.size != 0, "%s", text);
         }
+    };
+    const bool selected = is_set(entry, UidbEntry::group_selector);
+    if (ingress) {
+        list(listed_flags<&UidbFlagItem::ingress, base>);
+        selected ? list(listed_flags<&UidbFlagItem::ingress, set>) : list(listed_flags<&UidbFlagItem::ingress, clear>);
+    } else {
+        list(listed_flags<&UidbFlagItem::egress, base>);
+        selected ? list(listed_flags<&UidbFlagItem::egress, set>) : list(listed_flags<&UidbFlagItem::egress, clear>);
     }
 }
 
