@@ -97,7 +97,7 @@ public:
     }
 
     /// The conversion of an argument; that behind the last one has the text behind it.
-    [[nodiscard]] constexpr const Conversion &conversion(std::size_t argument) const { return conversions_[argument]; }
+    [[nodiscard]] constexpr Conversion conversion(std::size_t argument) const { return conversions_[argument]; }
     [[nodiscard]] constexpr const char *literal(std::size_t argument) const
     {
         return text_ + conversions_[argument].at;

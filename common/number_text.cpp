@@ -97,7 +97,7 @@ char *write_zero_filled_hex(char *at, unsigned width, std::uint64_t value)
     return at + width;
 }
 
-char *write_padded_number(char *at, const Conversion &conversion, std::uint64_t value)
+char *write_padded_number(char *at, Conversion conversion, std::uint64_t value)
 {
     const bool is_negative = conversion.kind == Conversion::decimal && (value >> 63U) != 0;
     const std::uint64_t magnitude = is_negative ? 0 - value : value;

@@ -17,11 +17,11 @@ char *write_left_aligned_decimal(char *at, unsigned width, std::uint64_t value);
 char *write_zero_filled_hex(char *at, unsigned width, std::uint64_t value);
 
 /// Any of them.
-char *write_padded_number(char *at, const Conversion &conversion, std::uint64_t value);
+char *write_padded_number(char *at, Conversion conversion, std::uint64_t value);
 
 /// Writes a number as printf would. The room is the caller's business: the width, or 20
 /// characters, and fill_slack behind them. Returns the end.
-[[gnu::always_inline]] inline char *write_number(char *at, const Conversion &conversion, std::uint64_t value)
+[[gnu::always_inline]] inline char *write_number(char *at, Conversion conversion, std::uint64_t value)
 {
     const bool is_decimal = conversion.kind == Conversion::decimal || conversion.kind == Conversion::unsigned_decimal;
     if (is_decimal && !conversion.zero_filled &&
@@ -72,7 +72,7 @@ template <class... Numbers, std::size_t... indices>
     char *at = text.chars;
     const auto write = [&](std::size_t index, auto number) __attribute__((always_inline))
     {
-        const Conversion &conversion = format.conversion(index);
+        const Conversion conversion = format.conversion(index);
         at = copy(at, format.literal(index), conversion.literal);
         at = write_number(at, conversion, number_bits(conversion.kind, number));
     };

@@ -118,7 +118,7 @@ private:
     [[gnu::always_inline]] void put(const AnyFormat &format, std::size_t index, std::string_view string)
     {
         put_literal(format, index);
-        const Conversion &conversion = format.conversion(index);
+        const Conversion conversion = format.conversion(index);
         if (conversion.width == 0 && string.size() <= short_string) {
             next_ = copy(next_, string.data(), string.size());
             reserve(format.room());
@@ -131,7 +131,7 @@ private:
     [[gnu::always_inline]] void put(const AnyFormat &format, std::size_t index, Integer value)
     {
         put_literal(format, index);
-        const Conversion &conversion = format.conversion(index);
+        const Conversion conversion = format.conversion(index);
         next_ = write_number(next_, conversion, number_bits(conversion.kind, value));
     }
 
