@@ -17,7 +17,7 @@ namespace l2fib
 
 /// A text made for one item of output.
 struct Text {
-    static constexpr std::size_t capacity = 256;
+    static constexpr std::size_t capacity = 64;
 
     Text() = default;
     Text(std::string_view text) : size(text.copy(chars, capacity)) {}
@@ -88,8 +88,7 @@ public:
             if (argument < sizeof...(Args)) {
                 take_conversion(rest, conversion, is_text[argument], is_long[argument]);
             }
-            constexpr std::size_t longest_number = 20;
-            room_ += conversion.literal + std::max<std::size_t>(conversion.width, longest_number);
+            room_ += conversion.literal + std::max<std::size_t>(conversion.width, longest_number[argument]);
         }
         if (!rest.empty() || room_ > max_room) {
             does_not_fit_its_arguments();
@@ -115,6 +114,11 @@ private:
     template <class Arg>
     using Passed = decltype(printf_argument(std::declval<const Arg &>()));
     static constexpr bool is_text[] = {std::is_same_v<Passed<Args>, std::string_view>..., false};
+    static constexpr std::size_t longest_number[] = {(sizeof(Passed<Args>) == 1   ? 4
+                                                      : sizeof(Passed<Args>) == 2 ? 6
+                                                      : sizeof(Passed<Args>) == 4 ? 11
+                                                                                  : 20)...,
+                                                     0};
     static constexpr bool is_long[] = {(sizeof(Passed<Args>) == sizeof(std::uint64_t))..., false};
 
     static constexpr std::uint16_t take_literal(std::string_view &rest)

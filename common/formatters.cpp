@@ -45,7 +45,8 @@ Text shg_text(std::uint32_t group)
 
 Text mac_text(const Bytes<6> &mac)
 {
-    return number_text("%02x%02x.%02x%02x.%02x%02x", mac[0], mac[1], mac[2], mac[3], mac[4], mac[5]);
+    const auto pair = [&mac](unsigned first) { return static_cast<std::uint16_t>(mac[first] << 8U | mac[first + 1]); };
+    return number_text("%04x.%04x.%04x", pair(0), pair(2), pair(4));
 }
 
 Text elapsed_text(std::uint64_t ns)

@@ -52,9 +52,13 @@ public:
     template <std::size_t size, class Word>
     void flags(const FlagTable<size> &table, const Word &word, std::uint32_t considered = all_flags)
     {
+        const Word bits = word; // printing might change it, for all that the compiler knows
         for (const Flag &flag : table.rows) {
-            const Literal &text = is_set(word, flag.number) ? flag.text : flag.text_when_clear;
-            item_if(text.size != 0 && is_set(considered, flag.number), "%s", text);
+            if (is_set(bits, flag.number)) {
+                item_if(is_set(considered, flag.number), "%s", flag.text);
+            } else if (flag.text_when_clear.size != 0) {
+                item_if(is_set(considered, flag.number), "%s", flag.text_when_clear);
+            }
         }
     }
 

@@ -91,6 +91,11 @@ char *write_decimal(char *at, std::uint64_t value)
     return at + count;
 }
 
+char *write_hex(char *at, std::uint64_t value)
+{
+    return write_zero_filled_hex(at, hex_digits(value), value);
+}
+
 char *write_zero_filled_hex(char *at, unsigned width, std::uint64_t value)
 {
     write_digits<16>(at + width, width, value, hex_pairs);

@@ -14,6 +14,7 @@ namespace l2fib
 char *write_decimal(char *at, std::uint64_t value);
 char *write_right_aligned_decimal(char *at, unsigned width, std::uint64_t value);
 char *write_left_aligned_decimal(char *at, unsigned width, std::uint64_t value);
+char *write_hex(char *at, std::uint64_t value);
 char *write_zero_filled_hex(char *at, unsigned width, std::uint64_t value);
 
 /// Any of them.
@@ -32,8 +33,10 @@ char *write_padded_number(char *at, Conversion conversion, std::uint64_t value);
         return conversion.left_aligned ? write_left_aligned_decimal(at, conversion.width, value)
                                        : write_right_aligned_decimal(at, conversion.width, value);
     }
-    if (conversion.kind == Conversion::hex && conversion.zero_filled && conversion.width != 0 &&
-        value >> (4U * conversion.width) == 0) {
+    if (conversion.kind == Conversion::hex && conversion.width == 0) {
+        return write_hex(at, value);
+    }
+    if (conversion.kind == Conversion::hex && conversion.zero_filled && value >> (4U * conversion.width) == 0) {
         return write_zero_filled_hex(at, conversion.width, value);
     }
     return write_padded_number(at, conversion, value);

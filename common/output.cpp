@@ -25,23 +25,15 @@ void Output::put_many(char c, std::uint64_t count)
     }
 }
 
-void Output::put_string(std::size_t width, bool left_aligned, std::string_view string, std::size_t room)
+void Output::put_long_string(std::string_view string)
 {
-    const std::size_t padding = width > string.size() ? width - string.size() : 0;
-    if (!left_aligned) {
-        repeat(' ', padding);
-    }
     if (string.size() <= buffer_size) {
         reserve(string.size());
-        next_ = copy(next_, string.data(), string.size());
+        next_ = copy_text(next_, string.data(), string.size());
     } else {
         flush();
         flushed_ += std::fwrite(string.data(), 1, string.size(), stream_);
     }
-    if (left_aligned) {
-        repeat(' ', padding);
-    }
-    reserve(room);
 }
 
 } // namespace l2fib

@@ -56,7 +56,7 @@ public:
     /// Opens a new line, and ends the one before; returns the column reached.
     int line(std::uint32_t level)
     {
-        reserve(1);
+        reserve(1 + few);
         *next_++ = '\n';
         return indent(level);
     }
@@ -102,10 +102,14 @@ private:
     [[gnu::always_inline]] int text(const AnyFormat &format, std::index_sequence<indices...> /*all*/, Values... values)
     {
         reserve(format.room());
-        const std::uint64_t begin = printed();
+        const char *begin = next_;
+        const std::uint64_t begin_printed = printed();
         (put(format, indices, values), ...);
         put_literal(format, sizeof...(Values));
-        return static_cast<int>(printed() - begin);
+        // Numbers are all in the buffer; strings may have been flushed.
+        return static_cast<int>((std::is_integral_v<Values> && ...)
+                                    ? next_ - begin
+                                    : static_cast<std::ptrdiff_t>(printed() - begin_printed));
     }
 
     template <class AnyFormat>
@@ -119,12 +123,15 @@ private:
     {
         put_literal(format, index);
         const Conversion conversion = format.conversion(index);
-        if (conversion.width == 0 && string.size() <= short_string) {
+        const std::size_t padding = conversion.width > string.size() ? conversion.width - string.size() : 0;
+        next_ = fill(next_, ' ', conversion.left_aligned ? 0 : padding);
+        if (string.size() <= short_string) {
             next_ = copy(next_, string.data(), string.size());
-            reserve(format.room());
         } else {
-            put_string(conversion.width, conversion.left_aligned, string, format.room());
+            put_long_string(string);
         }
+        next_ = fill(next_, ' ', conversion.left_aligned ? padding : 0);
+        reserve(format.room());
     }
 
     template <class AnyFormat, class Integer>
@@ -135,8 +142,7 @@ private:
         next_ = write_number(next_, conversion, number_bits(conversion.kind, value));
     }
 
-    /// A string, and room behind it for what follows.
-    void put_string(std::size_t width, bool left_aligned, std::string_view string, std::size_t room);
+    void put_long_string(std::string_view string);
 
     std::FILE *stream_;
     std::uint64_t flushed_ = 0; // characters handed to the stream

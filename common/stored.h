@@ -8,6 +8,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace l2fib
 {
@@ -190,6 +191,23 @@ public:
     [[nodiscard]] constexpr bool test(unsigned bit) const { return (this->word.value() >> (31 - bit) & 1U) != 0; }
 };
 
+/// Converts neighbouring numbers of 16 bits in place, four at a time.
+template <std::size_t count>
+void halves_to_host(U16 (&numbers)[count])
+{
+    constexpr std::uint64_t low_bytes = 0x00ff00ff00ff00ff;
+    constexpr std::size_t in_fours = count - count % 4;
+    for (std::size_t i = 0; i < in_fours; i += 4) {
+        std::uint64_t four = 0;
+        std::memcpy(&four, &numbers[i], sizeof four);
+        four = (four & low_bytes) << 8U | (four >> 8U & low_bytes);
+        std::memcpy(&numbers[i], &four, sizeof four);
+    }
+    for (std::size_t i = in_fours; i < count; ++i) {
+        numbers[i].to_host();
+    }
+}
+
 /// Converts fields, and arrays of fields, in place.
 template <class... Fields>
 constexpr void to_host(Fields &...fields)
@@ -197,6 +215,8 @@ constexpr void to_host(Fields &...fields)
     constexpr auto convert = []<class Field>(Field &field) {
         if constexpr (requires { field.to_host(); }) {
             field.to_host();
+        } else if constexpr (requires { halves_to_host(field); }) {
+            halves_to_host(field);
         } else {
             for (auto &element : field) {
                 element.to_host();

@@ -39,7 +39,8 @@ public:
     Report(Output &out, std::uint32_t level) : out_(out), level_(level) {}
 
     template <class Value>
-    void value(std::uint8_t verdict, const Format<std::type_identity_t<Value>> &format, Value value)
+    [[gnu::always_inline]] void value(std::uint8_t verdict, const Format<std::type_identity_t<Value>> &format,
+                                      Value value)
     {
         if (verdict != no_verdict) {
             verdict_ = verdict;

@@ -13,19 +13,19 @@ class TwoColumns
 {
 public:
     /// `gap` is what lies between the columns, tabs mostly.
-    TwoColumns(Output &out, const char *gap) : out_(out), gap_(gap) {}
+    TwoColumns(Output &out, const Literal &gap) : out_(out), gap_(gap) {}
 
     template <class... Args>
-    void item(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
+    [[gnu::always_inline]] void item(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
         out_.text<Args...>(format, args...);
-        out_.text("%s", is_right_ ? "\n" : gap_);
+        out_.text("%s", is_right_ ? Literal{"\n"} : gap_);
         is_right_ = !is_right_;
     }
 
     /// A value that has the line to itself.
     template <class... Args>
-    void line(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
+    [[gnu::always_inline]] void line(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
         out_.text<Args...>(format, args...);
         out_.text("\n");
@@ -42,7 +42,7 @@ public:
 
 private:
     Output &out_;
-    const char *gap_;
+    Literal gap_;
     bool is_right_ = false;
 };
 

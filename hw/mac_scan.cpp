@@ -28,14 +28,15 @@ static constexpr const char *state_names[] = {
 };
 static_assert(std::size(state_names) == mac_scan_states);
 
-static void print_count(Output &out, const Format<const char *, U32> &format, const char *name, U32 count)
+[[gnu::always_inline]] static inline void print_count(Output &out, const Format<const char *, U32> &format,
+                                                      const char *name, U32 count)
 {
     if (count != 0) {
         out.text<const char *, U32>(format, name, count);
     }
 }
 
-static void print_error_count(Output &out, const Format<U32> &format, U32 count)
+[[gnu::always_inline]] static inline void print_error_count(Output &out, const Format<U32> &format, U32 count)
 {
     if (count != 0) {
         out.text<U32>(format, count);

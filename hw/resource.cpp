@@ -145,8 +145,12 @@ static void print_time_totals(Output &out, const ColumnTotal (&totals)[resource_
     out.text("\n");
 }
 
-static void print_np(Output &out, std::uint32_t np, const ResourceData &resources, std::uint32_t total_macs)
+static void print_np(Output &out, std::uint32_t np, const ResourceData &received, std::uint32_t total_macs)
 {
+    ResourceUse uses[resource_types];
+    for (unsigned type = 0; type < resource_types; ++type) {
+        uses[type] = private_copy(received.types[type].nps[np]);
+    }
     ColumnTotal totals[resource_operations];
     out.text("\n"
              "                     Hardware Resource Summary - NP%d\n",
@@ -154,15 +158,15 @@ static void print_np(Output &out, std::uint32_t np, const ResourceData &resource
     out.text("%s", rule);
     print_columns(out);
     for (unsigned type = 0; type < resource_types; ++type) {
-        print_counts(out, types[type], resources.types[type].nps[np], totals);
+        print_counts(out, types[type], uses[type], totals);
     }
-    print_mac_counts(out, total_macs, resources.types[resource_static_mac].nps[np].maximum);
+    print_mac_counts(out, total_macs, uses[resource_static_mac].maximum);
     print_count_totals(out, totals);
 
     out.text("                     Hardware Performance Summary \n");
     out.text("%s", rule);
     for (unsigned type = 0; type < resource_types; ++type) {
-        print_times(out, types[type], resources.types[type].nps[np], totals);
+        print_times(out, types[type], uses[type], totals);
     }
     print_time_totals(out, totals);
 }
@@ -189,15 +193,14 @@ std::uint32_t zel_l2fib_trident_print_resource(Output &out, std::uint32_t level,
                  static_cast<std::uint32_t>(expected - sizeof(U32)));
         return L2FIB_SHOW_ERR_DATA;
     }
-    const ResourceData resources = private_copy(*received);
     for (std::uint32_t np = 0; np < np_count; ++np) {
-        print_np(out, np, resources, total_macs[np].from_wire());
+        print_np(out, np, *received, total_macs[np].from_wire());
     }
     out.text("\n");
     for (std::uint32_t np = 0; np < np_count; ++np) {
         out.text("                     Mac Scan Summary - NP%d\n", np);
         out.text("%s", rule);
-        print_mac_scan(out, resources.mac_scans[np]);
+        print_mac_scan(out, private_copy(received->mac_scans[np]));
         out.text("\n");
     }
     return 0;

@@ -42,12 +42,8 @@ struct ResourceData {
     U32 np_count;
     struct Use {
         ResourceUse nps[max_nps];
-
-        void to_host() { l2fib::to_host(nps); }
     } types[resource_types];    //     4
     MacScan mac_scans[max_nps]; // 11652
-
-    void to_host() { l2fib::to_host(np_count, types, mac_scans); }
 };
 static_assert(sizeof(ResourceData) == 13252 && offsetof(ResourceData, mac_scans) == 11652);
 
