@@ -96,8 +96,25 @@ char *write_hex(char *at, std::uint64_t value)
     return write_zero_filled_hex(at, hex_digits(value), value);
 }
 
+/// Of a width that the compiler knows.
+template <unsigned width>
+static char *write_zero_filled_hex(char *at, std::uint64_t value)
+{
+    for (unsigned done = 0; done < width; done += 2) {
+        const std::uint64_t pair = value >> (4 * (width - 2 - done)) & 0xffU;
+        std::memcpy(at + done, hex_pairs.data() + 2 * pair, 2);
+    }
+    return at + width;
+}
+
 char *write_zero_filled_hex(char *at, unsigned width, std::uint64_t value)
 {
+    if (width == 8) { // nearly all of them
+        return write_zero_filled_hex<8>(at, value);
+    }
+    if (width == 4) {
+        return write_zero_filled_hex<4>(at, value);
+    }
     write_digits<16>(at + width, width, value, hex_pairs);
     return at + width;
 }
