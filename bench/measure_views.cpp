@@ -139,7 +139,7 @@ static void measure(benchmark::State &state, const Measurement &measurement)
     const Sink sink(measurement.is_pipe);
     constexpr std::size_t batch = 100;
     std::vector<std::vector<std::uint8_t>> scratch(batch);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         double spent = 0;
         for (std::size_t done = 0; done < subjects.size(); done += batch) {
             const std::size_t count = std::min(batch, subjects.size() - done);

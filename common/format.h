@@ -107,19 +107,18 @@ public:
     [[nodiscard]] constexpr std::size_t room() const { return room_; }
     static constexpr std::size_t max_room = 1024;
 
-protected:
+private:
     static void does_not_fit_its_arguments() {} // not constexpr: reaching it is the compiler's error
 
-private:
     template <class Arg>
     using Passed = decltype(printf_argument(std::declval<const Arg &>()));
-    static constexpr bool is_text[] = {std::is_same_v<Passed<Args>, std::string_view>..., false};
-    static constexpr std::size_t longest_number[] = {(sizeof(Passed<Args>) == 1   ? 4
-                                                      : sizeof(Passed<Args>) == 2 ? 6
-                                                      : sizeof(Passed<Args>) == 4 ? 11
-                                                                                  : 20)...,
-                                                     0};
-    static constexpr bool is_long[] = {(sizeof(Passed<Args>) == sizeof(std::uint64_t))..., false};
+    static constexpr bool is_text[sizeof...(Args) + 1] = {std::is_same_v<Passed<Args>, std::string_view>..., false};
+    static constexpr std::size_t longest_number[sizeof...(Args) + 1] = {(sizeof(Passed<Args>) == 1   ? 4
+                                                                         : sizeof(Passed<Args>) == 2 ? 6
+                                                                         : sizeof(Passed<Args>) == 4 ? 11
+                                                                                                     : 20)...,
+                                                                        0};
+    static constexpr bool is_long[sizeof...(Args) + 1] = {(sizeof(Passed<Args>) == sizeof(std::uint64_t))..., false};
 
     static constexpr std::uint16_t take_literal(std::string_view &rest)
     {
@@ -128,7 +127,8 @@ private:
         return static_cast<std::uint16_t>(size);
     }
 
-    static constexpr void take_conversion(std::string_view &rest, Conversion &conversion, bool is_text, bool is_long)
+    static constexpr void take_conversion(std::string_view &rest, Conversion &conversion, bool wants_text,
+                                          bool wants_long)
     {
         if (!take(rest, '%')) {
             does_not_fit_its_arguments();
@@ -145,8 +145,8 @@ private:
                           : take(rest, 'X') ? Conversion::upper_hex
                           : take(rest, 's') ? Conversion::string
                                             : Conversion::none;
-        if (conversion.kind == Conversion::none || is_text != (conversion.kind == Conversion::string) ||
-            is_said_long != (is_long && !is_text)) {
+        if (conversion.kind == Conversion::none || wants_text != (conversion.kind == Conversion::string) ||
+            is_said_long != (wants_long && !wants_text)) {
             does_not_fit_its_arguments();
         }
     }

@@ -56,19 +56,26 @@ constexpr std::uint64_t number_bits(Conversion::Kind kind, Integer value)
 
 /// A format of numbers, whose text is sure to fit.
 template <class... Numbers>
-class NumberFormat : public Format<Numbers...>
+class NumberFormat
 {
 public:
-    consteval NumberFormat(const char *text) : Format<Numbers...>(text)
+    consteval NumberFormat(const char *text) : format_(text)
     {
-        if (this->room() + fill_slack > Text::capacity) {
-            this->does_not_fit_its_arguments();
+        if (format_.room() + fill_slack > Text::capacity) {
+            does_not_fit();
         }
     }
+
+    [[nodiscard]] constexpr const Format<Numbers...> &format() const { return format_; }
+
+private:
+    static void does_not_fit() {} // not constexpr: reaching it is the compiler's error
+
+    Format<Numbers...> format_;
 };
 
 template <class... Numbers, std::size_t... indices>
-[[gnu::always_inline]] inline Text number_text(const NumberFormat<Numbers...> &format,
+[[gnu::always_inline]] inline Text number_text(const Format<Numbers...> &format,
                                                std::index_sequence<indices...> /*all*/, Numbers... numbers)
 {
     Text text;
@@ -89,7 +96,7 @@ template <class... Numbers>
 [[gnu::always_inline]] inline Text number_text(const NumberFormat<std::type_identity_t<Numbers>...> &format,
                                                Numbers... numbers)
 {
-    return number_text<Numbers...>(format, std::index_sequence_for<Numbers...>(), numbers...);
+    return number_text<Numbers...>(format.format(), std::index_sequence_for<Numbers...>(), numbers...);
 }
 
 } // namespace l2fib

@@ -8,8 +8,8 @@ namespace l2fib
 // In words that overlap: most texts are shorter than a call of memcpy is worth.
 char *copy_text(char *to, const char *from, std::size_t size)
 {
-    const auto both_ends = [=]<class Word>(Word first) {
-        Word last;
+    const auto both_ends = [=](auto first) {
+        auto last = first;
         std::memcpy(&first, from, sizeof first);
         std::memcpy(&last, from + size - sizeof last, sizeof last);
         std::memcpy(to, &first, sizeof first);
