@@ -14,7 +14,7 @@ template <unsigned base>
 static constexpr DigitPairs digit_pairs(const char *digits)
 {
     DigitPairs pairs{};
-    for (std::size_t value = 0; value < base * base; ++value) {
+    for (std::size_t value = 0; value < std::size_t{base} * base; ++value) {
         pairs[2 * value] = digits[value / base];
         pairs[2 * value + 1] = digits[value % base];
     }
