@@ -11,7 +11,7 @@ forbid() {
     fi
 }
 
-everywhere='client/|examples/|tests/|platform/host/'
+everywhere='client/|examples/|tests/|fuzz/|bench/|platform/host/'
 forbid "$(ls common/*.h common/*.cpp | grep -v '^common/front_door\.')" "rp/|hw/|$everywhere" "formatting knows no record"
 forbid "common/front_door.cpp" "rp/[a-z0-9_]*(detail|private)|rp/[a-z_]*_context\.h|hw/|$everywhere" \
     "the front door knows no record and no view"
@@ -20,4 +20,5 @@ forbid "$(ls hw/*.h hw/*.cpp)" "rp/[a-z_]*(detail|private)|rp/context_end|$every
 forbid "$(ls include/zel_l2fib/*.h platform/*.h)" "common/|rp/|hw/|$everywhere" "the seams stand alone"
 forbid "$(ls client/*.h client/*.cpp)" "common/|hw/|rp/[a-z_]*(detail|private|end)" \
     "the client sees the exported interface, and where a record has its XID"
+forbid "$(ls examples/*.h examples/*.cpp platform/host/*.cpp)" "tests/|fuzz/|bench/" "what tests and measures is used by nothing"
 exit $status

@@ -45,6 +45,7 @@ TEST(Capture, BrokenLines)
         {R"({"object":"ac"})", "no show_data"},
         {R"({"show_data":"0011","object":"ac")", "broken JSON at byte 34"},
         {R"({"note":{"show_data":"00"},"object":"ac","show_data":"0"})", "show_data: not pairs of hex digits"},
+        {R"({"x":{"show_data":"ab"},"object":"ac","show_data":"*"})", "show_data: not pairs of hex digits"},
         {R"({"note":"show_data","object":"ac","show_data": 5})", "show_data: a text is needed"},
         {R"({"object":"ac","show_data":"\u0030"})", "show_data: not pairs of hex digits"},
         {R"({"object":"ac","show_data":"*"})", "show_data: not pairs of hex digits"},
