@@ -1,11 +1,19 @@
 #include "common/failure.h"
 
+#include "platform/platform.h"
+
 namespace l2fib
 {
 
 // What the two messages below print in the action's place.
 constexpr int action_null_show_data = 99;
 constexpr int action_wrong_objtype = 100;
+
+const char *status_text(std::uint32_t status)
+{
+    const char *text = ::status_text(status);
+    return text == nullptr ? "(null)" : text;
+}
 
 std::uint32_t short_data(Output &out, std::uint32_t level, std::uint64_t size, std::uint64_t needed)
 {

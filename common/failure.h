@@ -8,6 +8,9 @@
 namespace l2fib
 {
 
+/// The router's text of a status, for which the views ask here. Never null, even where the router's is.
+const char *status_text(std::uint32_t status);
+
 /// Show data that ends early: the bytes that there are and the bytes that are needed.
 std::uint32_t short_data(Output &out, std::uint32_t level, std::uint64_t size, std::uint64_t needed);
 

@@ -4,7 +4,6 @@
 #include "common/formatters.h"
 #include "common/list.h"
 #include "common/names.h"
-#include "platform/platform.h"
 #include "zel_l2fib/show.h"
 
 namespace l2fib

@@ -4,7 +4,9 @@
 #include "tests/support/printed.h"
 #include "zel_l2fib/show.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace l2fib
 {
@@ -91,6 +93,32 @@ TEST_P(Samples, CutShortAtEverySize)
             ASSERT_EQ(result.status, size < need.size ? status : 0) << "at " << size << " bytes";
         }
     }
+}
+
+TEST_P(Samples, StatusStandsWhereTheTextCannotGo)
+{
+    std::fflush(stdout);
+    const int screen = dup(STDOUT_FILENO);
+    for (const bool is_closed : {false, true}) {
+        for (const std::size_t size : {capture.show_data.size(), capture.show_data.size() / 2}) {
+            const Shown expected = show(size);
+            std::vector<std::uint8_t> data = capture.show_data;
+            const int full = open("/dev/full", O_WRONLY | O_CLOEXEC);
+            dup2(full, STDOUT_FILENO);
+            close(full);
+            if (is_closed) {
+                close(STDOUT_FILENO);
+            }
+            const std::uint32_t status = capture.show({data.data(), size});
+            const bool has_failed = std::fflush(stdout) != 0 || std::ferror(stdout) != 0;
+            dup2(screen, STDOUT_FILENO);
+            std::clearerr(stdout);
+            EXPECT_EQ(status, expected.status);
+            EXPECT_EQ(has_failed, !expected.text.empty());
+            EXPECT_EQ(show(size), expected);
+        }
+    }
+    close(screen);
 }
 
 INSTANTIATE_TEST_SUITE_P(, Samples, testing::ValuesIn(sample_captures), [](const auto &sample) {

@@ -91,10 +91,24 @@ TEST(Formatters, StampsAreOnTheMonotonicClock)
     tzset();
     EXPECT_EQ(timestamp_text(0).view(), "N/A");
 
-    // A clock that started with the epoch makes the stamp a wall-clock time.
-    test_platform.monotonic_seconds = static_cast<std::uint64_t>(std::time(nullptr));
-    const std::string text(timestamp_text(1'700'000'000'900'000'000).view());
-    EXPECT_TRUE(text == "11/14/2023 22:13:20" || text == "11/14/2023 22:13:21") << text; // a second may have passed
+    // A clock that started with the epoch makes the stamp a wall-clock time. Seconds are counted in 32 bits.
+    constexpr std::uint64_t s = 1'000'000'000;
+    const struct {
+        std::uint64_t ahead_of_wall;
+        std::uint64_t stamp;
+        const char *text;
+        const char *text_a_second_later;
+    } cases[] = {
+        {0, 1'700'000'000 * s + s - 1, "11/14/2023 22:13:20", "11/14/2023 22:13:21"},
+        {10, 5 * s, "02/07/2106 06:28:11", "02/07/2106 06:28:12"},
+        {0, ((std::uint64_t{1} << 32) + 5) * s, "01/01/1970 00:00:05", "01/01/1970 00:00:06"},
+        {0, UINT64_MAX, "02/22/2010 21:41:29", "02/22/2010 21:41:30"},
+    };
+    for (const auto &c : cases) {
+        test_platform.monotonic_seconds = static_cast<std::uint64_t>(std::time(nullptr)) + c.ahead_of_wall;
+        const std::string text(timestamp_text(c.stamp).view());
+        EXPECT_TRUE(text == c.text || text == c.text_a_second_later) << text;
+    }
     test_platform = {};
 }
 

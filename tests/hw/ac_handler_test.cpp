@@ -1,7 +1,9 @@
 // Which ACs and which of their NPs are shown, and what is said when the hardware's part does not hold them.
 #include "examples/show_data_builder.h"
 #include "hw/ac_handler.h"
+#include "hw/uidb_entry.h"
 #include "hw/vpls_ac.h"
+#include "hw/xid_entry.h"
 #include "rp/names.h"
 #include "tests/support/printed.h"
 #include "tests/support/test_platform.h"
@@ -99,6 +101,7 @@ TEST_F(AcHandler, StatesThatAreInHardware)
         {state_bound, 0, 0, 1, true},
         {state_unbound, 0, 0, 0, true},
         {state_unbound, 0, 0, 1, false},
+        {state_unbound, 0, 0, 2, false}, // no answer that a router should give
         {state_unbound, 0, 5, 1, true},
         {4, 0, 0, 0, false},
         {state_bound, 1U << AcContext::remote_ac, 0, 0, false},
@@ -275,6 +278,29 @@ TEST_F(PlainAc, NpsAndTheEntriesThatThereAre)
             EXPECT_EQ(result.status, c.complete ? 0 : L2FIB_SHOW_ERR_DATA);
         }
     }
+}
+
+TEST_F(PlainAc, FailuresThatTheRouterHasNoTextFor)
+{
+    test_platform.knows_statuses = false;
+    const std::string failed = "print handler failed for ";
+    const std::string text = show(3, entries(1)).text;
+    EXPECT_TRUE(text.ends_with(failed + "service Local Switch objtype 2 : (null)")) << text;
+    EXPECT_TRUE(shown_hardware(1, L2FIB_OBJTYPE_MPLS, 1, {}).text.ends_with(failed + "objtype 3 : (null)"));
+
+    UidbEntry entry{};
+    set(entry.retrieval_status, 9);
+    EXPECT_EQ(shown([&] {
+                  Output out;
+                  return zel_l2fib_print_uidb_entry(out, 0, L2FIB_INGRESS, 0, &entry);
+              }),
+              (Shown{"\nERROR: Failed to retrieve UIDB: (null)", 9}));
+    EXPECT_EQ(shown([&] {
+                  Output out;
+                  report_xid_failure(out, 0, "handler", 5, 9);
+                  return 0;
+              }),
+              Shown{"\nhandler: Failed to print HW entry xid: 0x5 - (null)"});
 }
 
 TEST_F(PlainAc, Failures)
