@@ -298,7 +298,7 @@ TEST_F(PlainAc, FailuresThatTheRouterHasNoTextFor)
     EXPECT_EQ(shown([&] {
                   Output out;
                   report_xid_failure(out, 0, "handler", 5, 9);
-                  return 0;
+                  return 0U;
               }),
               Shown{"\nhandler: Failed to print HW entry xid: 0x5 - (null)"});
 }
