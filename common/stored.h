@@ -208,22 +208,26 @@ void halves_to_host(U16 (&numbers)[count])
     }
 }
 
-/// Converts fields, and arrays of fields, in place.
+/// Converts a field, or an array of fields, in place.
+template <class Field>
+constexpr void field_to_host(Field &field)
+{
+    if constexpr (requires { field.to_host(); }) {
+        field.to_host();
+    } else if constexpr (requires { halves_to_host(field); }) {
+        halves_to_host(field);
+    } else {
+        for (auto &element : field) {
+            element.to_host();
+        }
+    }
+}
+
+/// Converts several of them.
 template <class... Fields>
 constexpr void to_host(Fields &...fields)
 {
-    constexpr auto convert = []<class Field>(Field &field) {
-        if constexpr (requires { field.to_host(); }) {
-            field.to_host();
-        } else if constexpr (requires { halves_to_host(field); }) {
-            halves_to_host(field);
-        } else {
-            for (auto &element : field) {
-                element.to_host();
-            }
-        }
-    };
-    (convert(fields), ...);
+    (field_to_host(fields), ...);
 }
 
 } // namespace l2fib
