@@ -48,7 +48,7 @@ static void add_direction_and_view(CLI::App &app, Capture &capture)
 {
     const std::span<const Choice> sides = directions();
     auto *ingress = app.add_flag_callback(
-        "--ingress", [&capture, sides] { capture.direction = &sides[0]; }, "The ingress side (the default)");
+        "--ingress", [&capture, sides] { capture.direction = &sides.front(); }, "The ingress side (the default)");
     app.add_flag_callback(
            "--egress", [&capture, sides] { capture.direction = &sides[1]; }, "The egress side")
         ->excludes(ingress);

@@ -116,7 +116,7 @@ bool BridgeWalk::take_feature_block_1()
             out_.line(level_ + 1, "NP %d: BVI TCAM index: 0x%08x ", np, nps[np].bvi_tcam_index);
         }
     }
-    feature_block_1_ = &block[0];
+    feature_block_1_ = block.data();
     feature_block_1_nps_ = nps;
     return true;
 }
