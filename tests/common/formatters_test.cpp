@@ -59,8 +59,18 @@ TEST(Formatters, SplitHorizonGroups)
     } cases[] = {{0, "None"}, {1, "VFI Enabled"}, {2, "Enabled"},
                  {7, "7"},    {0xffffffff, "-1"}, {0x80000000, "-2147483648"}};
     for (const auto &c : cases) {
-        EXPECT_EQ(shg_text(c.group).view(), c.text);
+        char text[12];
+        EXPECT_EQ(zel_l2fib_get_shg_str(text, sizeof text, static_cast<int>(c.group)),
+                  static_cast<int>(std::strlen(c.text)));
+        EXPECT_STREQ(text, c.text);
     }
+    char text[] = "zzzzz";
+    for (const int no_room : {0, -1}) {
+        EXPECT_EQ(zel_l2fib_get_shg_str(text, no_room, 2), 7);
+        EXPECT_STREQ(text, "zzzzz");
+    }
+    zel_l2fib_get_shg_str(text, 3, 2);
+    EXPECT_STREQ(text, "En");
 }
 
 TEST(Formatters, Addresses)

@@ -3,6 +3,7 @@
 #include "tests/support/test_platform.h"
 #include "zel_l2fib/show.h"
 
+#include <cstdio>
 #include <gtest/gtest.h>
 
 namespace l2fib
@@ -120,14 +121,32 @@ TEST_F(FrontDoor, HardwareViewsByFlags)
     EXPECT_EQ(hardware(15, 8), Shown{""});
     EXPECT_EQ(hardware(L2FIB_OBJTYPE_AC, 2), Shown{""});
     EXPECT_EQ(hardware(L2FIB_OBJTYPE_BRIDGE_PORT, 1), Shown{""});
+    EXPECT_EQ(shown([&] { return zel_l2fib_trident_print_internal_private(1, 15, 0, 2, 0, bytes.data(), 8); }),
+              hardware(15, 3));
+    EXPECT_EQ(shown([&] { return zel_l2fib_trident_print_internal_inconsistent(1, 2, 0, 2, 0, nullptr, 8); }),
+              (Shown{"", L2FIB_SHOW_ERR_ARGS}));
+    EXPECT_EQ(shown([&] { return zel_l2fib_trident_print_internal_inconsistent(1, 2, 0, 2, 0, nullptr, 0); }),
+              Shown{""});
 }
 
-TEST_F(FrontDoor, EmptySlotLeavesTheHardwareOut)
+TEST_F(FrontDoor, SlotsAreTheRouters)
 {
     Bytes bytes(2000);
     zel_l2fib_hal_print[1].object_print = nullptr;
     EXPECT_EQ(shown([&] { return zel_l2fib_print_internal_detail(6, 0, 1, 1, bytes.data(), bytes.size()); }),
               Shown{"\n"});
+    const auto mac = [&] {
+        return shown([&] { return zel_l2fib_print_internal_detail(14, 0, 1, 1, bytes.data(), bytes.size()); });
+    };
+    const std::string rp_part = mac().text;
+    zel_l2fib_hal_print[1].object_print = [](std::uint32_t /*level*/, std::uint32_t objtype, std::uint32_t /*node*/,
+                                             std::uint32_t /*direction*/, std::uint32_t /*view_flags*/,
+                                             std::uint8_t * /*show_data*/, std::uint64_t size) {
+        std::printf("own %u %lu", objtype, size);
+        return UINT32_C(5);
+    };
+    ASSERT_GT(rp_part.size(), 1U);
+    EXPECT_EQ(mac(), (Shown{rp_part.substr(0, rp_part.size() - 1) + "own 14 2000\n", 5}));
     print_internal(L2FIB_OBJTYPE_NHOP, L2FIB_VIEW_DETAIL, bytes);
     EXPECT_EQ(zel_l2fib_hal_print[1].object_print, zel_l2fib_trident_print_internal);
     EXPECT_EQ(zel_l2fib_hal_print[0].object_print, nullptr);
