@@ -3,7 +3,6 @@
 #include "common/failure.h"
 #include "common/formatters.h"
 #include "common/list.h"
-#include "platform/platform.h"
 
 #include <algorithm>
 #include <array>
