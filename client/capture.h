@@ -4,6 +4,8 @@
 #include "client/objects.h"
 #include "client/offline_platform.h"
 
+#include <unordered_map>
+
 namespace l2fib
 {
 
@@ -31,6 +33,17 @@ struct CaptureLine {
     std::string error; ///< why there is none; fit for a terminal
 };
 CaptureLine parse_capture(std::string_view line);
+
+/// Parses the lines of a file. Those of a router's dump mostly differ in their digits only, and are read by what was
+/// read before.
+class CaptureParser
+{
+public:
+    CaptureLine parse(std::string_view line);
+
+private:
+    std::unordered_map<std::string, Capture> known_; ///< by the line without its digits
+};
 
 /// The line of a capture, without its end.
 std::string format_capture(const Capture &capture);

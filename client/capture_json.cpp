@@ -226,36 +226,11 @@ static std::string_view find_digits(std::string_view line)
     return line.substr(quote + 1, line.find('"', quote + 1) - (quote + 1));
 }
 
-/// Runs the parser over a line. Nearly all of it are the digits of the show data, which take no parser: it is given the
-/// line without them.
-static bool read_line(CaptureReader &reader, std::string_view line)
+/// What the parser made of a line.
+static CaptureLine finish(CaptureReader &reader, bool is_read)
 {
-    const std::string_view digits = find_digits(line);
-    reader.draft.show_data_apart = bytes_of_hex(digits);
-    const auto begin = static_cast<std::size_t>(digits.data() - line.data());
-    if (digits.empty() || !reader.draft.show_data_apart) {
-        return Json::sax_parse(line, &reader);
-    }
-    // Longer than any other text that the line can hold: the digits that were found may be of another member.
-    std::string &stand_in = reader.draft.stand_in;
-    stand_in.assign(line.size() - digits.size(), '*');
-    std::string rest(line.substr(0, begin));
-    rest += stand_in;
-    rest += line.substr(begin + digits.size());
-    const bool is_read = Json::sax_parse(rest, &reader);
-    if (reader.draft.broken_at > begin) {
-        reader.draft.broken_at += digits.size();
-        reader.draft.broken_at -= stand_in.size();
-    }
-    return is_read;
-}
-
-CaptureLine parse_capture(std::string_view line)
-{
-    CaptureReader reader;
     Draft &draft = reader.draft;
-    draft.capture.router.time_zone = "UTC0";
-    if (!read_line(reader, line)) {
+    if (!is_read) {
         return {{}, draft.error.empty() ? "broken JSON at byte " + std::to_string(draft.broken_at) : draft.error};
     }
     if (const char *what = missing(draft); what != nullptr) {
@@ -265,6 +240,59 @@ CaptureLine parse_capture(std::string_view line)
         draft.capture.router.clocks = Clocks{*draft.monotonic_seconds, *draft.wall_seconds};
     }
     return {std::move(draft.capture), {}};
+}
+
+CaptureLine CaptureParser::parse(std::string_view line)
+{
+    CaptureReader reader;
+    Draft &draft = reader.draft;
+    draft.capture.router.time_zone = "UTC0";
+
+    // Nearly all of a line are the digits of the show data, which take no parser: it is given the line without them.
+    const std::string_view digits = find_digits(line);
+    draft.show_data_apart = bytes_of_hex(digits);
+    if (digits.empty() || !draft.show_data_apart) {
+        return finish(reader, Json::sax_parse(line, &reader));
+    }
+    const auto begin = static_cast<std::size_t>(digits.data() - line.data());
+    const std::string_view front = line.substr(0, begin);
+    const std::string_view back = line.substr(begin + digits.size());
+    std::string frame(front);
+    frame += '\n'; // which no line has
+    frame += back;
+    if (const auto found = known_.find(frame); found != known_.end()) {
+        CaptureLine known{found->second, {}};
+        known.capture.show_data = std::move(*draft.show_data_apart);
+        return known;
+    }
+
+    // Longer than any other text that the line can hold: the digits that were found may be of another member.
+    draft.stand_in.assign(front.size() + back.size(), '*');
+    std::string rest(front);
+    rest += draft.stand_in;
+    rest += back;
+    const bool is_read = Json::sax_parse(rest, &reader);
+    if (draft.broken_at > begin) {
+        draft.broken_at += digits.size();
+        draft.broken_at -= draft.stand_in.size();
+    }
+    const bool took_digits = !draft.show_data_apart;
+    CaptureLine parsed = finish(reader, is_read);
+    if (parsed.error.empty() && took_digits) {
+        constexpr std::size_t most_known = 256;
+        if (known_.size() == most_known) {
+            known_.clear();
+        }
+        Capture &known = known_[frame];
+        known = parsed.capture;
+        known.show_data = {};
+    }
+    return parsed;
+}
+
+CaptureLine parse_capture(std::string_view line)
+{
+    return CaptureParser{}.parse(line);
 }
 
 std::string format_capture(const Capture &capture)

@@ -1,26 +1,35 @@
 #include "client/hex.h"
 
-#include <array>
 #include <charconv>
+#include <cstring>
 
 namespace l2fib
 {
 
-constexpr std::uint8_t no_digit = 0xff;
-
-static constexpr std::array<std::uint8_t, 256> digit_values = [] {
-    std::array<std::uint8_t, 256> values{};
-    values.fill(no_digit);
-    for (std::uint8_t digit = 0; digit < 16; ++digit) {
-        values[static_cast<unsigned char>("0123456789abcdef"[digit])] = digit;
-        values[static_cast<unsigned char>("0123456789ABCDEF"[digit])] = digit;
-    }
-    return values;
-}();
-
-static std::uint8_t digit_value(char c)
+/// The same byte eight times.
+static constexpr std::uint64_t eight(std::uint8_t byte)
 {
-    return digit_values[static_cast<unsigned char>(c)];
+    return byte * std::uint64_t{0x0101010101010101};
+}
+
+/// Four bytes of eight hex digits, and in `others` a bit for each character that is none.
+static std::uint32_t four_bytes(const char *digits, std::uint64_t &others)
+{
+    std::uint64_t text = 0;
+    std::memcpy(&text, digits, sizeof text);
+
+    // Within a byte, a sum that reaches 0x80 says that a number is not below the bound that was taken from 0x80.
+    const std::uint64_t as_digit = text ^ eight('0');
+    const std::uint64_t as_letter = (text | eight(0x20)) ^ eight(0x60); // 1 to 6 for a to f
+    const std::uint64_t no_digit = ((as_digit & eight(0x7f)) + eight(0x80 - 10)) | as_digit;
+    const std::uint64_t no_letter =
+        ~((as_letter & eight(0x7f)) + eight(0x80 - 1)) | ((as_letter & eight(0x7f)) + eight(0x80 - 7)) | as_letter;
+    others |= no_digit & no_letter & eight(0x80);
+
+    std::uint64_t values = (text & eight(0x0f)) + 9 * (text >> 6U & eight(0x01));
+    values = (values << 4U | values >> 8U) & 0x00ff00ff00ff00ff; // the pairs
+    values = (values | values >> 8U) & 0x0000ffff0000ffff;
+    return static_cast<std::uint32_t>(values | values >> 16U);
 }
 
 /// Appends the bytes of hex digits; false when there is half a byte or no hex.
@@ -29,16 +38,21 @@ static bool append_digits(std::vector<std::uint8_t> &bytes, std::string_view dig
     if (digits.size() % 2 != 0) {
         return false;
     }
-    unsigned seen = 0;
+    std::uint64_t others = 0;
     const std::size_t first = bytes.size();
     bytes.resize(first + digits.size() / 2);
-    for (std::size_t i = 0; i < digits.size(); i += 2) {
-        const unsigned high = digit_value(digits[i]);
-        const unsigned low = digit_value(digits[i + 1]);
-        seen |= high | low;
-        bytes[first + i / 2] = static_cast<std::uint8_t>(high << 4 | low);
+    std::uint8_t *at = bytes.data() + first;
+    for (; digits.size() >= 8; digits.remove_prefix(8), at += 4) {
+        const std::uint32_t four = four_bytes(digits.data(), others);
+        std::memcpy(at, &four, sizeof four);
     }
-    return (seen & 0xf0U) == 0;
+    if (!digits.empty()) {
+        char rest[] = "00000000";
+        digits.copy(rest, sizeof rest);
+        const std::uint32_t four = four_bytes(rest, others);
+        std::memcpy(at, &four, digits.size() / 2);
+    }
+    return others == 0;
 }
 
 std::optional<std::vector<std::uint8_t>> bytes_of_hex(std::string_view digits)

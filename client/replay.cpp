@@ -82,6 +82,7 @@ private:
     const ReplayOptions &options_;
     HeldOutput held_;
     Progress progress_;
+    CaptureParser parser_;
     Tally tally_;
     bool is_first_ = true;
     ExitStatus exit_status_ = shown;
@@ -98,7 +99,7 @@ void Replay::file(const std::string &path)
         if (line == Input::Line::too_long) {
             report(place + ": line too long");
         } else if (text.find_first_not_of(" \t\r") != std::string::npos) {
-            CaptureLine parsed = parse_capture(text);
+            CaptureLine parsed = parser_.parse(text);
             if (!parsed.error.empty()) {
                 report(place + ": " + parsed.error);
             } else if (options_.selection.fits(parsed.capture)) {

@@ -75,6 +75,28 @@ TEST(Capture, BrokenLines)
     }
 }
 
+TEST(Capture, LinesThatDifferInTheirDigitsOnly)
+{
+    CaptureParser parser;
+    const auto parsed = [&](const std::string &line) {
+        const CaptureLine result = parser.parse(line);
+        return result.error.empty() ? format_capture(result.capture) : result.error;
+    };
+    const std::string front = R"({"object":"ac","node":1,"card":"0x1e1000","direction":"egress","view":"detail",)"
+                              R"("time_zone":"UTC0","virtual_interfaces":["0x9"],"show_data":")";
+    for (const std::string digits : {"00", "0102ff", "00", "ab"}) {
+        EXPECT_EQ(parsed(front + digits + "\"}"), front + digits + "\"}");
+    }
+    EXPECT_EQ(parsed(front + "abc\"}"), "show_data: not pairs of hex digits");
+    EXPECT_EQ(parsed(front + "\"}"), front + "\"}");
+
+    // Of a line whose first digits are another member's, nothing is kept.
+    EXPECT_EQ(parsed(R"({"x":{"show_data":"11"},"object":"mac","show_data":"22"})").find(R"("show_data":"22")"),
+              parsed(R"({"x":{"show_data":"33"},"object":"mac","show_data":"22"})").find(R"("show_data":"22")"));
+    EXPECT_NE(parsed(R"({"x":{"show_data":"33"},"object":"mac","show_data":"22"})").find(R"("show_data":"22")"),
+              std::string::npos);
+}
+
 TEST(Capture, TimesAreThoseOfItsRouter)
 {
     std::vector<std::uint8_t> port(2588);

@@ -35,6 +35,23 @@ TEST(Hex, Forms)
     }
 }
 
+TEST(Hex, EveryCharacterAtEveryPlace)
+{
+    for (unsigned c = 0; c < 256; ++c) {
+        for (std::size_t place = 0; place < 10; ++place) {
+            std::string digits = "0123456789";
+            digits[place] = static_cast<char>(c);
+            const auto bytes = bytes_of_hex(digits);
+            ASSERT_EQ(bytes.has_value(), std::isxdigit(static_cast<int>(c)) != 0) << c;
+            if (bytes) {
+                std::string lower = digits;
+                lower[place] = static_cast<char>(std::tolower(static_cast<int>(c)));
+                ASSERT_EQ(hex_of_bytes(*bytes), lower);
+            }
+        }
+    }
+}
+
 TEST(Hex, WhatIsNone)
 {
     const struct {
