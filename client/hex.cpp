@@ -42,15 +42,17 @@ static bool append_digits(std::vector<std::uint8_t> &bytes, std::string_view dig
     const std::size_t first = bytes.size();
     bytes.resize(first + digits.size() / 2);
     std::uint8_t *at = bytes.data() + first;
-    for (; digits.size() >= 8; digits.remove_prefix(8), at += 4) {
-        const std::uint32_t four = four_bytes(digits.data(), others);
-        std::memcpy(at, &four, sizeof four);
+    const char *from = digits.data();
+    const std::size_t eights = digits.size() / 8;
+    for (std::size_t i = 0; i < eights; ++i) {
+        const std::uint32_t four = four_bytes(from + 8 * i, others);
+        std::memcpy(at + 4 * i, &four, sizeof four);
     }
-    if (!digits.empty()) {
+    if (digits.size() % 8 != 0) {
         char rest[] = "00000000";
-        digits.copy(rest, sizeof rest);
+        digits.substr(8 * eights).copy(rest, sizeof rest);
         const std::uint32_t four = four_bytes(rest, others);
-        std::memcpy(at, &four, digits.size() / 2);
+        std::memcpy(at + 4 * eights, &four, digits.size() % 8 / 2);
     }
     return others == 0;
 }
