@@ -64,6 +64,8 @@ inline std::string_view printf_argument(const Text &text)
 struct Conversion {
     enum Kind : std::uint8_t { none, decimal, unsigned_decimal, hex, upper_hex, string };
 
+    static constexpr std::size_t longest_width = 64;
+
     std::uint16_t at = 0;      ///< where in the format the text in front of it begins
     std::uint16_t literal = 0; ///< characters of that text
     std::uint8_t width = 0;
@@ -145,8 +147,8 @@ private:
                           : take(rest, 'X') ? Conversion::upper_hex
                           : take(rest, 's') ? Conversion::string
                                             : Conversion::none;
-        if (conversion.kind == Conversion::none || wants_text != (conversion.kind == Conversion::string) ||
-            is_said_long != (wants_long && !wants_text)) {
+        if (conversion.kind == Conversion::none || conversion.width > Conversion::longest_width ||
+            wants_text != (conversion.kind == Conversion::string) || is_said_long != (wants_long && !wants_text)) {
             does_not_fit_its_arguments();
         }
     }

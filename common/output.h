@@ -81,7 +81,7 @@ public:
 
 private:
     static constexpr std::size_t buffer_size = 4096;
-    static constexpr std::size_t short_string = 64;
+    static constexpr std::size_t short_string = Conversion::longest_width; // a longer one takes no padding
     static constexpr std::uint64_t few = 128;
 
     void put_many(char c, std::uint64_t count);
@@ -91,8 +91,8 @@ private:
     /// Makes room for so many characters, of at most a buffer.
     void reserve(std::size_t size)
     {
-        if (buffer_ + buffer_size - next_ <
-            static_cast<std::ptrdiff_t>(size)) { // less than nothing behind a short string
+        const std::ptrdiff_t left = buffer_ + buffer_size - next_; // less than nothing behind a short string at the end
+        if (left < static_cast<std::ptrdiff_t>(size)) {
             flush();
         }
     }
@@ -147,7 +147,7 @@ private:
     std::FILE *stream_;
     std::uint64_t flushed_ = 0; // characters handed to the stream
     char *next_ = buffer_;
-    char buffer_[buffer_size + short_string + fill_slack]; // the ends are for what is written without asking
+    char buffer_[buffer_size + short_string + fill_slack]; // a short string and a fill do not ask for room
 };
 
 } // namespace l2fib

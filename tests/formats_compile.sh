@@ -35,6 +35,7 @@ bad 'out.text("%s", field);'
 bad 'out.text("%d", "text");'
 bad 'out.text("%f", field);'
 bad 'out.text("100%");'
+bad 'out.text("%65s", "text");'
 bad 'List{out, 1}.item("XID: 0x%08x", "text");'
 bad 'out.line(1, "NP%d", wide);'
 
