@@ -333,7 +333,8 @@ Shape shape_of_object(std::span<const std::uint8_t> input)
         add_tlv(shape, input);
         return shape;
     }
-    switch (call.objtype) {
+    const std::uint32_t objtype = call.objtype.value();
+    switch (objtype) {
     case L2FIB_OBJTYPE_AC: add_ac(shape, call); break;
     case L2FIB_OBJTYPE_MPLS: add_pw(shape, call); break;
     case L2FIB_OBJTYPE_BRIDGE: add_bridge(shape, call); break;
@@ -349,7 +350,8 @@ Shape shape_of_object(std::span<const std::uint8_t> input)
 Shape shape_of_summary(std::span<const std::uint8_t> input)
 {
     Shape shape(input);
-    switch (add_call(shape).function % summary_functions) {
+    const std::uint8_t function = add_call(shape).function.value();
+    switch (function % summary_functions) {
     case state_summary:
         shape.add<StateSummary>();
         shape.skip(1);
