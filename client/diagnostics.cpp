@@ -20,7 +20,8 @@ ExitStatus report_status(std::uint32_t status, std::string_view place)
 {
     std::array<char, sizeof "0xffffffff"> code{};
     std::snprintf(code.data(), code.size(), "0x%08x", status);
-    complain(std::string(place) + "status " + code.data() + ": " + status_text(status));
+    const char *text = status_text(status); // a router's own may have none
+    complain(std::string(place) + "status " + code.data() + ": " + (text == nullptr ? "(null)" : text));
     return view_failed;
 }
 
