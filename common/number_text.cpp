@@ -65,8 +65,14 @@ static unsigned hex_digits(std::uint64_t value)
     return (bit_width(value | 1U) + 3) / 4;
 }
 
-char *write_right_aligned_decimal(char *at, unsigned width, std::uint64_t value)
+constexpr std::uint64_t two_groups = std::uint64_t{ThreeDigits::limit} * ThreeDigits::limit;
+
+char *write_long_right_aligned_decimal(char *at, unsigned width, std::uint64_t value)
 {
+    if (value < two_groups && width >= 2 * ThreeDigits::width) {
+        at = fill(at, ' ', width - 2 * ThreeDigits::width);
+        return write_three_digits(write_three_columns(at, value / ThreeDigits::limit), value % ThreeDigits::limit);
+    }
     const unsigned count = decimal_digits(value);
     at = fill(at, ' ', width > count ? width - count : 0) + count;
     write_digits<10>(at, count, value, decimal_pairs);
@@ -80,11 +86,10 @@ char *write_left_aligned_decimal(char *at, unsigned width, std::uint64_t value)
     return fill(end, ' ', width > size ? width - size : 0);
 }
 
-char *write_decimal(char *at, std::uint64_t value)
+char *write_long_decimal(char *at, std::uint64_t value)
 {
-    if (value < 10) {
-        *at = static_cast<char>('0' + value);
-        return at + 1;
+    if (value < two_groups) {
+        return write_three_digits(write_few_digits(at, value / ThreeDigits::limit), value % ThreeDigits::limit);
     }
     const unsigned count = decimal_digits(value);
     write_digits<10>(at + count, count, value, decimal_pairs);

@@ -3,6 +3,7 @@
 
 #include "common/format.h"
 #include "common/short_text.h"
+#include "common/three_digits.h"
 
 #include <cstdint>
 #include <cstring>
@@ -11,11 +12,24 @@ namespace l2fib
 {
 
 /// The common ones of write_number: of no sign, and hex filled with zeros.
-char *write_decimal(char *at, std::uint64_t value);
-char *write_right_aligned_decimal(char *at, unsigned width, std::uint64_t value);
+char *write_long_decimal(char *at, std::uint64_t value);
+char *write_long_right_aligned_decimal(char *at, unsigned width, std::uint64_t value);
 char *write_left_aligned_decimal(char *at, unsigned width, std::uint64_t value);
 char *write_hex(char *at, std::uint64_t value);
 char *write_zero_filled_hex(char *at, unsigned width, std::uint64_t value);
+
+inline char *write_decimal(char *at, std::uint64_t value)
+{
+    return value < ThreeDigits::limit ? write_few_digits(at, value) : write_long_decimal(at, value);
+}
+
+inline char *write_right_aligned_decimal(char *at, unsigned width, std::uint64_t value)
+{
+    if (value < ThreeDigits::limit && width >= ThreeDigits::width) {
+        return write_three_columns(fill(at, ' ', width - ThreeDigits::width), value);
+    }
+    return write_long_right_aligned_decimal(at, width, value);
+}
 
 /// Any of them.
 char *write_padded_number(char *at, Conversion conversion, std::uint64_t value);

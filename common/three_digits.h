@@ -1,0 +1,61 @@
+// Numbers below 1000 as text: most of those on a screen, and the groups that longer ones are made of.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+
+namespace l2fib
+{
+
+/// Three decimal digits, with blanks in place of leading zeros.
+struct ThreeDigits {
+    static constexpr unsigned width = 3;
+    static constexpr std::uint32_t limit = 1000;
+
+    char columns[width];
+    std::uint8_t digits; ///< how many are no blanks
+};
+
+inline constexpr auto three_digits = [] {
+    std::array<ThreeDigits, ThreeDigits::limit> table{};
+    for (std::uint32_t value = 0; value < ThreeDigits::limit; ++value) {
+        const char hundreds = static_cast<char>('0' + value / 100);
+        const char tens = static_cast<char>('0' + value / 10 % 10);
+        const char units = static_cast<char>('0' + value % 10);
+        table[value] = value >= 100  ? ThreeDigits{{hundreds, tens, units}, 3}
+                       : value >= 10 ? ThreeDigits{{' ', tens, units}, 2}
+                                     : ThreeDigits{{' ', ' ', units}, 1};
+    }
+    return table;
+}();
+
+// Each of these writes four bytes, and returns where the text ends.
+
+/// "  7"
+inline char *write_three_columns(char *at, std::uint64_t value)
+{
+    std::memcpy(at, &three_digits[value], sizeof(ThreeDigits));
+    return at + ThreeDigits::width;
+}
+
+/// "007"
+inline char *write_three_digits(char *at, std::uint64_t value)
+{
+    const std::uint32_t digits = std::bit_cast<std::uint32_t>(three_digits[value]) | 0x30303030U; // blanks become zeros
+    std::memcpy(at, &digits, sizeof digits);
+    return at + ThreeDigits::width;
+}
+
+/// "7"
+inline char *write_few_digits(char *at, std::uint64_t value)
+{
+    const unsigned count = three_digits[value].digits;
+    const unsigned blanks = ThreeDigits::width - count;
+    const std::uint32_t digits = std::bit_cast<std::uint32_t>(three_digits[value]) >> 8 * blanks;
+    std::memcpy(at, &digits, sizeof digits);
+    return at + count;
+}
+
+} // namespace l2fib
