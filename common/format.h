@@ -90,7 +90,7 @@ public:
             if (argument < sizeof...(Args)) {
                 take_conversion(rest, conversion, is_text[argument], is_long[argument]);
             }
-            room_ += conversion.literal + std::max<std::size_t>(conversion.width, longest_number[argument]);
+            room_ += conversion.literal + std::max<std::size_t>(conversion.width, longest[argument]);
         }
         if (!rest.empty() || room_ > max_room) {
             does_not_fit_its_arguments();
@@ -98,15 +98,18 @@ public:
     }
 
     /// The conversion of an argument; that behind the last one has the text behind it.
-    [[nodiscard]] constexpr Conversion conversion(std::size_t argument) const { return conversions_[argument]; }
-    [[nodiscard]] constexpr const char *literal(std::size_t argument) const
+    [[nodiscard, gnu::always_inline]] constexpr Conversion conversion(std::size_t argument) const
+    {
+        return conversions_[argument];
+    }
+    [[nodiscard, gnu::always_inline]] constexpr const char *literal(std::size_t argument) const
     {
         return text_ + conversions_[argument].at;
     }
     [[nodiscard]] constexpr const char *text() const { return text_; }
 
-    /// The characters that it makes at most, beside those of strings.
-    [[nodiscard]] constexpr std::size_t room() const { return room_; }
+    /// The characters that it makes at most, with strings that are no longer than a width can be.
+    [[nodiscard, gnu::always_inline]] constexpr std::size_t room() const { return room_; }
     static constexpr std::size_t max_room = 1024;
 
 private:
@@ -115,11 +118,13 @@ private:
     template <class Arg>
     using Passed = decltype(printf_argument(std::declval<const Arg &>()));
     static constexpr bool is_text[sizeof...(Args) + 1] = {std::is_same_v<Passed<Args>, std::string_view>..., false};
-    static constexpr std::size_t longest_number[sizeof...(Args) + 1] = {(sizeof(Passed<Args>) == 1   ? 4
-                                                                         : sizeof(Passed<Args>) == 2 ? 6
-                                                                         : sizeof(Passed<Args>) == 4 ? 11
-                                                                                                     : 20)...,
-                                                                        0};
+    static constexpr std::size_t longest[sizeof...(Args) + 1] = {(std::is_same_v<Passed<Args>, std::string_view>
+                                                                      ? Conversion::longest_width
+                                                                  : sizeof(Passed<Args>) == 1 ? 4
+                                                                  : sizeof(Passed<Args>) == 2 ? 6
+                                                                  : sizeof(Passed<Args>) == 4 ? 11
+                                                                                              : 20)...,
+                                                                 0};
     static constexpr bool is_long[sizeof...(Args) + 1] = {(sizeof(Passed<Args>) == sizeof(std::uint64_t))..., false};
 
     static constexpr std::uint16_t take_literal(std::string_view &rest)

@@ -10,7 +10,6 @@ void Output::flush()
 {
     const auto size = static_cast<std::size_t>(next_ - buffer_);
     std::fwrite(buffer_, 1, size, stream_); // what does not arrive is the stream's to tell its owner
-    flushed_ += size;
     next_ = buffer_;
 }
 
@@ -32,7 +31,7 @@ void Output::put_long_string(std::string_view string)
         next_ = copy_text(next_, string.data(), string.size());
     } else {
         flush();
-        flushed_ += std::fwrite(string.data(), 1, string.size(), stream_);
+        std::fwrite(string.data(), 1, string.size(), stream_);
     }
 }
 

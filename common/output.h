@@ -81,18 +81,14 @@ public:
 
 private:
     static constexpr std::size_t buffer_size = 4096;
-    static constexpr std::size_t short_string = Conversion::longest_width; // a longer one takes no padding
     static constexpr std::uint64_t few = 128;
 
     void put_many(char c, std::uint64_t count);
 
-    [[nodiscard]] std::uint64_t printed() const { return flushed_ + static_cast<std::uint64_t>(next_ - buffer_); }
-
     /// Makes room for so many characters, of at most a buffer.
     void reserve(std::size_t size)
     {
-        const std::ptrdiff_t left = buffer_ + buffer_size - next_; // less than nothing behind a short string at the end
-        if (left < static_cast<std::ptrdiff_t>(size)) {
+        if (next_ > buffer_ + buffer_size - size) {
             flush();
         }
     }
@@ -102,52 +98,49 @@ private:
     [[gnu::always_inline]] int text(const AnyFormat &format, std::index_sequence<indices...> /*all*/, Values... values)
     {
         reserve(format.room());
-        const char *begin = next_;
-        const std::uint64_t begin_printed = printed();
-        (put(format, indices, values), ...);
-        put_literal(format, sizeof...(Values));
-        // Numbers are all in the buffer; strings may have been flushed.
-        return static_cast<int>((std::is_integral_v<Values> && ...)
-                                    ? next_ - begin
-                                    : static_cast<std::ptrdiff_t>(printed() - begin_printed));
+        std::size_t printed = 0;
+        ((printed += put_literal(format, indices), printed += put(format, format.conversion(indices), values)), ...);
+        printed += put_literal(format, sizeof...(Values));
+        return static_cast<int>(printed);
     }
 
     template <class AnyFormat>
-    [[gnu::always_inline]] void put_literal(const AnyFormat &format, std::size_t index)
+    [[gnu::always_inline]] std::size_t put_literal(const AnyFormat &format, std::size_t index)
     {
-        next_ = copy(next_, format.literal(index), format.conversion(index).literal);
-    }
-
-    template <class AnyFormat>
-    [[gnu::always_inline]] void put(const AnyFormat &format, std::size_t index, std::string_view string)
-    {
-        put_literal(format, index);
-        const Conversion conversion = format.conversion(index);
-        const std::size_t padding = conversion.width > string.size() ? conversion.width - string.size() : 0;
-        next_ = fill(next_, ' ', conversion.left_aligned ? 0 : padding);
-        if (string.size() <= short_string) {
-            next_ = copy(next_, string.data(), string.size());
-        } else {
-            put_long_string(string);
-        }
-        next_ = fill(next_, ' ', conversion.left_aligned ? padding : 0);
-        reserve(format.room());
+        const std::size_t size = format.conversion(index).literal;
+        next_ = copy(next_, format.literal(index), size);
+        return size;
     }
 
     template <class AnyFormat, class Integer>
-    [[gnu::always_inline]] void put(const AnyFormat &format, std::size_t index, Integer value)
+    [[gnu::always_inline]] std::size_t put(const AnyFormat & /*format*/, Conversion conversion, Integer value)
     {
-        put_literal(format, index);
-        const Conversion conversion = format.conversion(index);
+        const char *begin = next_;
         next_ = write_number(next_, conversion, number_bits(conversion.kind, value));
+        return static_cast<std::size_t>(next_ - begin);
+    }
+
+    template <class AnyFormat>
+    [[gnu::always_inline]] std::size_t put(const AnyFormat &format, Conversion conversion, std::string_view string)
+    {
+        const std::size_t size = string.size();
+        if (size > Conversion::longest_width) {
+            put_long_string(string);
+            reserve(format.room());
+            return size;
+        }
+        const std::size_t padding = conversion.width > size ? conversion.width - size : 0;
+        char *at = fill(next_, ' ', conversion.left_aligned ? 0 : padding);
+        at = copy(at, string.data(), size);
+        next_ = fill(at, ' ', conversion.left_aligned ? padding : 0);
+        return padding + size;
     }
 
     void put_long_string(std::string_view string);
 
     std::FILE *stream_;
-    std::uint64_t flushed_ = 0; // characters handed to the stream
     char *next_ = buffer_;
-    char buffer_[buffer_size + short_string + fill_slack]; // a short string and a fill do not ask for room
+    char buffer_[buffer_size + fill_slack];
 };
 
 } // namespace l2fib
