@@ -12,7 +12,7 @@ namespace l2fib
 {
 
 struct Flag {
-    unsigned number; ///< as the word's test() has it, or the bit of a plain number
+    unsigned number; ///< as the word's set_flags() have it, or the bit of a plain number
     Literal text;
     Literal text_when_clear = nullptr; ///< of a bit that says which of two things holds: one of them is printed
 };
@@ -23,14 +23,20 @@ constexpr std::uint32_t all_flags_but(unsigned number)
     return ~(std::uint32_t{1} << number);
 }
 
+/// The flags of a word by their numbers: the bits of a plain number.
 template <class Word>
-constexpr bool is_set(const Word &word, unsigned number)
+constexpr std::uint32_t set_flags(const Word &word)
 {
-    if constexpr (requires { word.test(number); }) {
-        return word.test(number);
+    if constexpr (requires { word.set_flags(); }) {
+        return word.set_flags();
     } else {
-        return (word >> number & 1U) != 0;
+        return word;
     }
+}
+
+constexpr bool is_set(std::uint32_t set, unsigned number)
+{
+    return (set >> number & 1U) != 0;
 }
 
 /// Flags of one word. A table that names a bit twice, or gives it no text, does not compile.
@@ -38,22 +44,31 @@ template <std::size_t size>
 struct FlagTable {
     consteval FlagTable(const Flag (&flags)[size]) : FlagTable(flags, std::make_index_sequence<size>()) {}
 
+    /// Those flags whose text a word with these flags set prints.
+    [[nodiscard]] constexpr std::uint32_t shown(std::uint32_t set) const
+    {
+        return (set & named_) | (~set & named_when_clear_);
+    }
+
     Flag rows[size];
 
 private:
     template <std::size_t... indices>
     consteval FlagTable(const Flag (&flags)[size], std::index_sequence<indices...> /*all*/) : rows{flags[indices]...}
     {
-        std::uint32_t seen = 0;
-        for (std::size_t i = 0; i < size; ++i) {
-            if (flags[i].number > 31 || (seen >> flags[i].number & 1U) != 0 || flags[i].text.size == 0) {
+        for (const Flag &flag : flags) {
+            if (flag.number > 31 || is_set(named_, flag.number) || flag.text.size == 0) {
                 is_malformed();
             }
-            seen |= std::uint32_t{1} << flags[i].number;
+            named_ |= std::uint32_t{1} << flag.number;
+            named_when_clear_ |= std::uint32_t{flag.text_when_clear.size != 0} << flag.number;
         }
     }
 
     static void is_malformed() {} // not constexpr: reaching it is the compiler's error
+
+    std::uint32_t named_ = 0;
+    std::uint32_t named_when_clear_ = 0;
 };
 
 } // namespace l2fib

@@ -19,7 +19,7 @@ public:
     }
 
     /// Opens a line for a labelled list, which continues under its first item.
-    List(Output &out, std::uint32_t level, const char *label) : List(out, level)
+    List(Output &out, std::uint32_t level, const Literal &label) : List(out, level)
     {
         text("%s: ", label);
         continuation_ = column_;
@@ -52,12 +52,11 @@ public:
     template <std::size_t size, class Word>
     void flags(const FlagTable<size> &table, const Word &word, std::uint32_t considered = all_flags)
     {
-        const Word bits = word; // printing might change it, for all that the compiler knows
+        const std::uint32_t set = set_flags(word);
+        const std::uint32_t shown = table.shown(set) & considered;
         for (const Flag &flag : table.rows) {
-            if (is_set(bits, flag.number)) {
-                item_if(is_set(considered, flag.number), "%s", flag.text);
-            } else if (flag.text_when_clear.size != 0) {
-                item_if(is_set(considered, flag.number), "%s", flag.text_when_clear);
+            if (is_set(shown, flag.number)) {
+                item("%s", is_set(set, flag.number) ? flag.text : flag.text_when_clear);
             }
         }
     }
@@ -101,7 +100,7 @@ private:
 
 /// A line with the texts of a flag table for a word, "None" when there are none.
 template <std::size_t size, class Word>
-void print_flags(Output &out, std::uint32_t level, const char *label, const FlagTable<size> &table, const Word &word,
+void print_flags(Output &out, std::uint32_t level, const Literal &label, const FlagTable<size> &table, const Word &word,
                  std::uint32_t considered = all_flags)
 {
     List line{out, level, label};

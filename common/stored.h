@@ -122,11 +122,6 @@ class Packed
         return fields;
     }();
 
-    static constexpr unsigned leading_flags = [] {
-        const FieldRun first = std::array{runs...}.front();
-        return first.width == 1 ? first.count : 0;
-    }();
-
     static constexpr auto wide_fields = [] {
         std::array<Field, ((runs.width == 1 ? 0 : runs.count) + ...)> fields{};
         std::copy_if(layout.begin(), layout.end(), fields.begin(), [](Field field) { return field.width != 1; });
@@ -143,13 +138,26 @@ public:
     {
         return static_cast<Bits>(word.value() >> layout[field].start) & mask(layout[field]);
     }
-    [[nodiscard]] constexpr bool test(unsigned field) const
+    [[nodiscard]] constexpr bool test(unsigned field) const { return get(field) != 0; }
+
+    /// All at once: a bit for each field, set where the field is not zero.
+    [[nodiscard]] constexpr std::uint32_t set_flags() const
     {
-        // The leading fields are mostly flags, whose number is their bit.
-        if (leading_flags == field_count || field < leading_flags) {
-            return (word.value() >> field & 1U) != 0;
-        }
-        return get(field) != 0;
+        std::uint32_t set = 0;
+        unsigned field = 0;
+        const auto add = [&](FieldRun run) {
+            if (run.width == 1) {
+                const Field all{layout[field].start, run.count};
+                set |= static_cast<std::uint32_t>(word.value() >> all.start & mask(all)) << field;
+                field += run.count;
+                return;
+            }
+            for (const unsigned end = field + run.count; field < end; ++field) {
+                set |= std::uint32_t{test(field)} << field;
+            }
+        };
+        (add(runs), ...);
+        return set;
     }
 
     constexpr void to_host()
@@ -189,6 +197,7 @@ class HardwareFlags : public FlagWord<runs...>
 {
 public:
     [[nodiscard]] constexpr bool test(unsigned bit) const { return (this->word.value() >> (31 - bit) & 1U) != 0; }
+    [[nodiscard]] constexpr std::uint32_t set_flags() const { return bits_reversed(this->word.value()); }
 };
 
 /// Converts neighbouring numbers of 16 bits in place, four at a time.

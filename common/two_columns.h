@@ -35,8 +35,9 @@ public:
     template <std::size_t size, class Word>
     void flags(const FlagTable<size> &table, const Word &word)
     {
+        const std::uint32_t set = set_flags(word);
         for (const Flag &flag : table.rows) {
-            item("%s: %d", flag.text, is_set(word, flag.number) ? 1 : 0);
+            item("%s: %d", flag.text, is_set(set, flag.number) ? 1 : 0);
         }
     }
 
