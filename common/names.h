@@ -1,6 +1,8 @@
 // Tables of names, indexed by the number that the show data carries.
 #pragma once
 
+#include "common/format.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -8,7 +10,7 @@ namespace l2fib
 {
 
 template <std::size_t size>
-constexpr const char *name_of(const char *const (&names)[size], std::uint32_t index, const char *otherwise)
+constexpr Literal name_of(const Literal (&names)[size], std::uint32_t index, const Literal &otherwise)
 {
     return index < size ? names[index] : otherwise;
 }

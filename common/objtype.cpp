@@ -8,7 +8,7 @@
 namespace l2fib
 {
 
-static constexpr const char *objtype_names[] = {
+static constexpr Literal objtype_names[] = {
     "NONE",
     "ALL",
     "AC",
@@ -52,7 +52,7 @@ static constexpr const char *objtype_names[] = {
 };
 static_assert(std::size(objtype_names) == L2FIB_OBJTYPE_MAX + 1);
 
-const char *objtype_name(std::uint32_t objtype)
+Literal objtype_name(std::uint32_t objtype)
 {
     return name_of(objtype_names, objtype, "Invalid");
 }

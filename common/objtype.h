@@ -1,12 +1,14 @@
 // The printed names of the object types.
 #pragma once
 
+#include "common/format.h"
+
 #include <cstdint>
 
 namespace l2fib
 {
 
 /// The name of an object type, "Invalid" for a code that is none.
-const char *objtype_name(std::uint32_t objtype);
+Literal objtype_name(std::uint32_t objtype);
 
 } // namespace l2fib

@@ -25,10 +25,10 @@ enum TlvType : std::uint8_t {
 
 constexpr std::uint8_t no_verdict = 1;
 
-static const char *verdict_name(std::uint32_t verdict)
+static Literal verdict_name(std::uint32_t verdict)
 {
     constexpr std::uint32_t ok = 2;
-    constexpr const char *names[] = {"OK", "Warning", "Error"};
+    static constexpr Literal names[] = {"OK", "Warning", "Error"};
     return name_of(names, verdict - ok, "Invalid");
 }
 

@@ -5,13 +5,13 @@
 namespace l2fib
 {
 
-static constexpr const char *event_names[] = {
+static constexpr Literal event_names[] = {
     "Local XID", "Global XID", "Grp Local XID in BD", "Grp Global XID in BD", "Grp Local XID", "Grp Global XID",
     "BD",        "Grp BD",
 };
 static_assert(std::size(event_names) == mac_scan_events);
 
-static constexpr const char *state_names[] = {
+static constexpr Literal state_names[] = {
     "Init",
     "Local_XID",
     "Global_XID",
@@ -28,11 +28,11 @@ static constexpr const char *state_names[] = {
 };
 static_assert(std::size(state_names) == mac_scan_states);
 
-[[gnu::always_inline]] static inline void print_count(Output &out, const Format<const char *, U32> &format,
-                                                      const char *name, U32 count)
+[[gnu::always_inline]] static inline void print_count(Output &out, const Format<Literal, U32> &format,
+                                                      const Literal &name, U32 count)
 {
     if (count != 0) {
-        out.text<const char *, U32>(format, name, count);
+        out.text<Literal, U32>(format, name, count);
     }
 }
 

@@ -12,12 +12,12 @@
 namespace l2fib
 {
 
-static constexpr const char *operation_names[] = {"Set", "Modify", "Clear", "Get", "Get Info", "Delete All"};
+static constexpr Literal operation_names[] = {"Set", "Modify", "Clear", "Get", "Get Info", "Delete All"};
 static_assert(std::size(operation_names) == resource_operations);
 enum Operation : unsigned { modify = 1, get = 3, delete_all = 5 };
 
 struct ResourceType {
-    const char *name;
+    Literal name;
     std::uint32_t operations = all_flags; ///< those whose requests are counted, by bit
     bool has_entries = true;              ///< whether the entries in use are known
 };
@@ -39,7 +39,7 @@ static constexpr ResourceType types[] = {
 };
 static_assert(std::size(types) == resource_types);
 
-constexpr const char *rule = "              ---------------------------------------------\n";
+constexpr Literal rule = "              ---------------------------------------------\n";
 
 /// The names of the operations above their columns, and "T/F" under each. A name of ten letters makes its column one
 /// wider than the others.
@@ -47,8 +47,8 @@ static void print_columns(Output &out)
 {
     constexpr int width = 11;
     out.text("%13s ", "");
-    for (const char *name : operation_names) {
-        const auto size = static_cast<int>(std::string_view{name}.size());
+    for (const Literal &name : operation_names) {
+        const auto size = static_cast<int>(name.size);
         const int before = (width - size) / 2;
         out.blanks(std::max(before, 1));
         out.text("%s", name);

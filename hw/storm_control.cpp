@@ -16,13 +16,13 @@ void StormControlState::to_host()
 
 enum StormControlStatus : std::uint32_t { status_none = 0, status_config = 3 };
 
-static const char *status_name(std::uint32_t status)
+static Literal status_name(std::uint32_t status)
 {
-    constexpr const char *names[] = {"None", "Disable", "Alloc", "Config", "Alloc Failed", "Config Failed"};
+    static constexpr Literal names[] = {"None", "Disable", "Alloc", "Config", "Alloc Failed", "Config Failed"};
     return name_of(names, status, "Invalid");
 }
 
-static constexpr const char *traffic_names[] = {"Broadcast", "Multicast", "Unknown Unicast"};
+static constexpr Literal traffic_names[] = {"Broadcast", "Multicast", "Unknown Unicast"};
 static_assert(std::size(traffic_names) == storm_traffic_types);
 
 static void print_configuration(Output &out, std::uint32_t level, const StormControlConfig &config)
@@ -42,7 +42,7 @@ static void print_configuration(Output &out, std::uint32_t level, const StormCon
 
 static void print_table_head(Output &out, std::uint32_t level, bool kbps)
 {
-    constexpr const char *rule = "--------------------------------------------------------------------------------";
+    constexpr Literal rule = "--------------------------------------------------------------------------------";
     out.line(level, "%-15s|%-13s|%-8s|%-13s|%-15s|%-10s|%-2s", " Traffic Type", "   Status", kbps ? "kbps" : " pps",
              "Profile Index", "Token Bucket ID", "Profile ID", "NP");
     out.line(level, "%s", rule);

@@ -30,18 +30,18 @@ static bool ac_is_in_hardware(const AcContext &ac)
     return !ac.flags.test(AcContext::remote_ac);
 }
 
-static const char *service_of_ac(ShowData data)
+static Literal service_of_ac(ShowData data)
 {
     const auto *service = data.at<U32>(offsetof(AcShowData, context.service));
     return service_name(service == nullptr ? UINT32_MAX : service->value());
 }
 
-constexpr const char *detail_view = "zel_l2fib_trident_print_internal_detail";
-constexpr const char *private_view = "zel_l2fib_trident_print_internal_private";
+constexpr Literal detail_view = "zel_l2fib_trident_print_internal_detail";
+constexpr Literal private_view = "zel_l2fib_trident_print_internal_private";
 
 /// Reports an object whose handler failed; the line of some is ended, and of others left open. Returns the status.
-static std::uint32_t report_failure(Output &out, std::uint32_t level, const char *view, std::uint32_t objtype,
-                                    std::uint32_t status, const char *line_end = "")
+static std::uint32_t report_failure(Output &out, std::uint32_t level, const Literal &view, std::uint32_t objtype,
+                                    std::uint32_t status, const Literal &line_end = "")
 {
     if (status != 0) {
         out.line(level, "%s: print handler failed for objtype %d : %s%s", view, objtype, status_text(status), line_end);

@@ -9,9 +9,9 @@
 namespace l2fib
 {
 
-static const char *zel_l2fib_get_xid_type_str(std::uint32_t type)
+static Literal zel_l2fib_get_xid_type_str(std::uint32_t type)
 {
-    constexpr const char *names[] = {
+    static constexpr Literal names[] = {
         "Unknown",   "AC",  "Bundle",  "Pseudowire (no control word)", "Pseudowire (with control word)",
         "Interflex", "PBB", "Unknown", "PW-HE (no control word)",      "PW-HE (with control word)",
         "VNI",

@@ -13,7 +13,7 @@ struct PortFlag {
 
     Word word;
     unsigned number;
-    const char *text;
+    Literal text;
 };
 
 static constexpr PortFlag port_flags[] = {
@@ -44,20 +44,10 @@ static constexpr PortFlag port_flags[] = {
     {PortFlag::port, BridgePortContext::msti_egress_blocked, "MSTI egress blocked"},
 };
 
-static bool is_set(const BridgePortContext &port, const PortFlag &flag)
-{
-    switch (flag.word) {
-    case PortFlag::port: return port.flags.test(flag.number);
-    case PortFlag::feature: return port.features.features.test(flag.number);
-    case PortFlag::more_feature: return port.features.more.test(flag.number);
-    }
-    return false;
-}
-
 /// In small letters, unlike the other names.
-static const char *p2mp_role_name(std::uint32_t role)
+static Literal p2mp_role_name(std::uint32_t role)
 {
-    constexpr const char *names[] = {"unknown", "head", "mid", "bud", "tail"};
+    static constexpr Literal names[] = {"unknown", "head", "mid", "bud", "tail"};
     return name_of(names, role, "invalid");
 }
 
@@ -74,8 +64,10 @@ void print_bridge_port_detail(Output &out, std::uint32_t direction, std::uint8_t
     summary.item("State: %s", state_name(port.state));
 
     List flags{out, 2, "Flags"};
+    const std::uint32_t words[] = {set_flags(port.flags), set_flags(port.features.features),
+                                   set_flags(port.features.more)};
     for (const PortFlag &flag : port_flags) {
-        flags.item_if(is_set(port, flag), "%s", flag.text);
+        flags.item_if(is_set(words[flag.word], flag.number), "%s", flag.text);
     }
     flags.none_if_empty();
 

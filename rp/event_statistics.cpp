@@ -8,7 +8,7 @@
 namespace l2fib
 {
 
-constexpr const char *rule = "--------------------------------------------------------------------\n";
+constexpr Literal rule = "--------------------------------------------------------------------\n";
 
 static void print_counts(Output &out, const EventCounts &counts)
 {

@@ -11,9 +11,9 @@ constexpr std::uint32_t service_local_switch = 1;
 constexpr std::uint32_t service_vpls = 2;
 
 /// The service (cross-connect type) of an AC or a PW.
-inline const char *service_name(std::uint32_t service)
+inline Literal service_name(std::uint32_t service)
 {
-    constexpr const char *names[] = {"Mtun", "Local Switch", "VPLS", "Snoop", "L2TP", "IPV6_L2TPV3"};
+    static constexpr Literal names[] = {"Mtun", "Local Switch", "VPLS", "Snoop", "L2TP", "IPV6_L2TPV3"};
     return name_of(names, service, "Invalid");
 }
 
@@ -21,9 +21,9 @@ constexpr std::uint32_t state_bound = 2;
 constexpr std::uint32_t state_unbound = 3;
 
 /// The state of an object.
-inline const char *state_name(std::uint32_t state)
+inline Literal state_name(std::uint32_t state)
 {
-    constexpr const char *names[] = {"Uninitialized", "Created", "Bound", "Unbound", "Deleted"};
+    static constexpr Literal names[] = {"Uninitialized", "Created", "Bound", "Unbound", "Deleted"};
     return name_of(names, state, "Invalid");
 }
 

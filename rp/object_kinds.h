@@ -1,6 +1,8 @@
 // The kinds of objects that the platform layer keeps counts of.
 #pragma once
 
+#include "common/format.h"
+
 namespace l2fib
 {
 
@@ -9,7 +11,7 @@ constexpr unsigned object_kind_rows = 27;
 
 struct ObjectKind {
     unsigned row;
-    const char *name;
+    Literal name;
     bool in_state_summary; ///< the event statistics show every kind
 };
 

@@ -16,7 +16,7 @@ TEST(List, Wrapping)
     const std::string blanks(72, ' ');
     const struct {
         std::uint32_t level;
-        const char *label;
+        Literal label;
         std::string before; // text in front of the items
         std::vector<std::string> items;
         std::string printed;
@@ -31,7 +31,7 @@ TEST(List, Wrapping)
     for (const auto &c : cases) {
         EXPECT_EQ(printed([&] {
                       Output out;
-                      List line = c.label != nullptr ? List{out, c.level, c.label} : List{out, c.level};
+                      List line = c.label.size != 0 ? List{out, c.level, c.label} : List{out, c.level};
                       line.text("%s", c.before.c_str());
                       for (const std::string &item : c.items) {
                           line.item("%s", item.c_str());
