@@ -1,36 +1,72 @@
 #include "client/hex.h"
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <charconv>
 #include <cstring>
 
 namespace l2fib
 {
 
-/// The same byte eight times.
-static constexpr std::uint64_t eight(std::uint8_t byte)
+/// Numbers side by side, as the processor takes them.
+template <class Number, std::size_t size>
+struct Vector {
+    using Type [[gnu::vector_size(size)]] = Number;
+};
+
+/// Decodes hex digits, `width` at a time, with nothing left over. False where one is none.
+template <std::size_t width>
+[[gnu::always_inline]] static inline bool decode(std::uint8_t *at, std::string_view digits)
 {
-    return byte * std::uint64_t{0x0101010101010101};
+    using Characters = typename Vector<std::uint8_t, width>::Type;
+    using Signed = typename Vector<std::int8_t, width>::Type;
+    using Pairs = typename Vector<std::uint16_t, width>::Type;
+    using Bytes = typename Vector<std::uint8_t, width / 2>::Type;
+
+    constexpr int lowest = -128;
+    Characters all_hex = ~Characters{};
+    for (; !digits.empty(); digits.remove_prefix(width), at += width / 2) {
+        Characters text;
+        std::memcpy(&text, digits.data(), width);
+
+        // All ones where it is one: the digits, and the letters, are moved to where the signed numbers begin, which are
+        // compared at once.
+        const Characters lower = text | std::uint8_t{'a' - 'A'};
+        const auto from_0 = reinterpret_cast<Signed>(text + static_cast<std::uint8_t>(lowest - '0'));
+        const auto from_a = reinterpret_cast<Signed>(lower + static_cast<std::uint8_t>(lowest - 'a'));
+        const auto is_digit = reinterpret_cast<Characters>(from_0 < std::int8_t{lowest + 10});
+        const auto is_letter = reinterpret_cast<Characters>(from_a < std::int8_t{lowest + 6});
+        all_hex &= is_digit | is_letter;
+
+        const auto values = reinterpret_cast<Pairs>((text & std::uint8_t{0xf}) + (is_letter & std::uint8_t{9}));
+        const Pairs joined = (values << 4 | values >> 8) & std::uint16_t{0xff};
+        const auto bytes = __builtin_convertvector(joined, Bytes);
+        std::memcpy(at, &bytes, sizeof bytes);
+    }
+    const auto each = std::bit_cast<std::array<std::uint8_t, width>>(all_hex);
+    return std::all_of(each.begin(), each.end(), [](std::uint8_t is_hex) { return is_hex != 0; });
 }
 
-/// Four bytes of eight hex digits, and in `others` a bit for each character that is none.
-static std::uint32_t four_bytes(const char *digits, std::uint64_t &others)
+constexpr std::size_t decoded_at_once = 32;
+
+#ifdef __x86_64__
+/// On processors with registers for as many.
+[[gnu::target("avx2")]] static bool decode_wide(std::uint8_t *at, std::string_view digits)
 {
-    std::uint64_t text = 0;
-    std::memcpy(&text, digits, sizeof text);
-
-    // Within a byte, a sum that reaches 0x80 says that a number is not below the bound that was taken from 0x80.
-    const std::uint64_t as_digit = text ^ eight('0');
-    const std::uint64_t as_letter = (text | eight(0x20)) ^ eight(0x60); // 1 to 6 for a to f
-    const std::uint64_t no_digit = ((as_digit & eight(0x7f)) + eight(0x80 - 10)) | as_digit;
-    const std::uint64_t no_letter =
-        ~((as_letter & eight(0x7f)) + eight(0x80 - 1)) | ((as_letter & eight(0x7f)) + eight(0x80 - 7)) | as_letter;
-    others |= no_digit & no_letter & eight(0x80);
-
-    std::uint64_t values = (text & eight(0x0f)) + 9 * (text >> 6U & eight(0x01));
-    values = (values << 4U | values >> 8U) & 0x00ff00ff00ff00ff; // the pairs
-    values = (values | values >> 8U) & 0x0000ffff0000ffff;
-    return static_cast<std::uint32_t>(values | values >> 16U);
+    return decode<decoded_at_once>(at, digits);
 }
+
+static bool decode_digits(std::uint8_t *at, std::string_view digits)
+{
+    return __builtin_cpu_supports("avx2") != 0 ? decode_wide(at, digits) : decode<decoded_at_once / 2>(at, digits);
+}
+#else
+static bool decode_digits(std::uint8_t *at, std::string_view digits)
+{
+    return decode<decoded_at_once / 2>(at, digits);
+}
+#endif
 
 /// Appends the bytes of hex digits; false when there is half a byte or no hex.
 static bool append_digits(std::vector<std::uint8_t> &bytes, std::string_view digits)
@@ -38,23 +74,20 @@ static bool append_digits(std::vector<std::uint8_t> &bytes, std::string_view dig
     if (digits.size() % 2 != 0) {
         return false;
     }
-    std::uint64_t others = 0;
     const std::size_t first = bytes.size();
     bytes.resize(first + digits.size() / 2);
     std::uint8_t *at = bytes.data() + first;
-    const char *from = digits.data();
-    const std::size_t eights = digits.size() / 8;
-    for (std::size_t i = 0; i < eights; ++i) {
-        const std::uint32_t four = four_bytes(from + 8 * i, others);
-        std::memcpy(at + 4 * i, &four, sizeof four);
+    const std::size_t most = digits.size() / decoded_at_once * decoded_at_once;
+    if (!decode_digits(at, digits.substr(0, most))) {
+        return false;
     }
-    if (digits.size() % 8 != 0) {
-        char rest[] = "00000000";
-        digits.substr(8 * eights).copy(rest, sizeof rest);
-        const std::uint32_t four = four_bytes(rest, others);
-        std::memcpy(at + 4 * eights, &four, digits.size() % 8 / 2);
-    }
-    return others == 0;
+    std::array<char, decoded_at_once> rest{};
+    rest.fill('0');
+    digits.substr(most).copy(rest.data(), rest.size());
+    std::array<std::uint8_t, decoded_at_once / 2> last{};
+    const bool is_hex = decode_digits(last.data(), {rest.data(), rest.size()});
+    std::copy_n(last.begin(), (digits.size() - most) / 2, at + most / 2);
+    return is_hex;
 }
 
 std::optional<std::vector<std::uint8_t>> bytes_of_hex(std::string_view digits)

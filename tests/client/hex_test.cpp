@@ -37,9 +37,10 @@ TEST(Hex, Forms)
 
 TEST(Hex, EveryCharacterAtEveryPlace)
 {
+    const std::string all = "0123456789abcdef00112233445566778899aabbccddeeffa0b1c2d3e4f5061728";
     for (unsigned c = 0; c < 256; ++c) {
-        for (std::size_t place = 0; place < 10; ++place) {
-            std::string digits = "0123456789";
+        for (std::size_t place = 0; place < all.size(); ++place) {
+            std::string digits = all;
             digits[place] = static_cast<char>(c);
             const auto bytes = bytes_of_hex(digits);
             ASSERT_EQ(bytes.has_value(), std::isxdigit(static_cast<int>(c)) != 0) << c;
