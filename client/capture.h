@@ -43,6 +43,7 @@ public:
 
 private:
     std::unordered_map<std::string, Capture> known_; ///< by the line without its digits
+    std::string frame_;                              ///< of the line at hand
 };
 
 /// The line of a capture, without its end.

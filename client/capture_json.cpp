@@ -257,10 +257,10 @@ CaptureLine CaptureParser::parse(std::string_view line)
     const auto begin = static_cast<std::size_t>(digits.data() - line.data());
     const std::string_view front = line.substr(0, begin);
     const std::string_view back = line.substr(begin + digits.size());
-    std::string frame(front);
-    frame += '\n'; // which no line has
-    frame += back;
-    if (const auto found = known_.find(frame); found != known_.end()) {
+    frame_ = front;
+    frame_ += '\n'; // which no line has
+    frame_ += back;
+    if (const auto found = known_.find(frame_); found != known_.end()) {
         CaptureLine known{found->second, {}};
         known.capture.show_data = std::move(*draft.show_data_apart);
         return known;
@@ -283,7 +283,7 @@ CaptureLine CaptureParser::parse(std::string_view line)
         if (known_.size() == most_known) {
             known_.clear();
         }
-        Capture &known = known_[frame];
+        Capture &known = known_[frame_];
         known = parsed.capture;
         known.show_data = {};
     }

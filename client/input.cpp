@@ -3,68 +3,93 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace l2fib
 {
 
-void Input::Close::operator()(std::FILE *file) const
-{
-    if (file != stdin) {
-        std::fclose(file);
-    }
-}
-
 Input::Input(const std::string &path)
-    : file_(path == "-" ? stdin : std::fopen(path.c_str(), "rb")), buffer_(std::size_t{1} << 16U), path_(path)
+    : path_(path), file_(path == "-" ? STDIN_FILENO : open(path.c_str(), O_RDONLY | O_CLOEXEC)),
+      buffer_(std::size_t{1} << 16U)
 {
-    if (!file_) {
-        error_ = path_ + ": " + std::strerror(errno);
+    if (file_ < 0) {
+        fail();
     }
 }
 
-bool Input::fill()
+Input::~Input()
 {
-    if (unread_.empty() && file_) {
-        unread_ = {buffer_.data(), std::fread(buffer_.data(), 1, buffer_.size(), file_.get())};
-        if (unread_.empty() && std::ferror(file_.get()) != 0) {
-            error_ = path_ + ": " + std::strerror(errno);
-        }
+    if (file_ >= 0 && file_ != STDIN_FILENO) {
+        close(file_);
     }
-    return !unread_.empty();
 }
 
-std::string Input::read_all(std::size_t longest)
+void Input::fail()
 {
-    std::string text;
-    while (text.size() <= longest && fill()) {
-        const std::size_t count = std::min(unread_.size(), longest + 1 - text.size());
-        text.append(unread_.substr(0, count));
-        unread_.remove_prefix(count);
-    }
-    return text;
+    error_ = path_ + ": " + std::strerror(errno);
+    is_at_end_ = true;
 }
 
-bool Input::next_line(std::string &text, std::size_t longest, Line &line)
+bool Input::read_on()
 {
-    text.clear();
-    line = Line::whole;
-    bool any = false;
-    bool ended = false;
-    while (!ended && fill()) {
-        any = true;
-        const std::size_t end = unread_.find('\n');
-        ended = end != std::string_view::npos;
-        const std::string_view piece = unread_.substr(0, end);
-        unread_.remove_prefix(ended ? end + 1 : unread_.size());
-        if (text.size() + piece.size() > longest) {
-            line = Line::too_long;
-            text.clear();
-        }
-        if (line == Line::whole) {
-            text.append(piece);
-        }
+    if (is_at_end_) {
+        return false;
     }
-    return any;
+    std::copy(unread_.begin(), unread_.end(), buffer_.begin());
+    if (unread_.size() == buffer_.size()) {
+        buffer_.resize(2 * buffer_.size());
+    }
+    ssize_t count = 0;
+    do {
+        count = read(file_, buffer_.data() + unread_.size(), buffer_.size() - unread_.size());
+    } while (count < 0 && errno == EINTR);
+    if (count < 0) {
+        fail();
+        count = 0;
+    }
+    is_at_end_ = count == 0;
+    unread_ = {buffer_.data(), unread_.size() + static_cast<std::size_t>(count)};
+    return count != 0;
+}
+
+std::string_view Input::take(std::size_t size)
+{
+    const std::string_view taken = unread_.substr(0, size);
+    unread_.remove_prefix(taken.size());
+    return taken;
+}
+
+std::string_view Input::read_all(std::size_t longest)
+{
+    while (unread_.size() <= longest && read_on()) {
+    }
+    return take(longest + 1);
+}
+
+std::optional<Input::Line> Input::next_line(std::size_t longest)
+{
+    bool is_too_long = false;
+    std::size_t end = unread_.find('\n');
+    while (end == std::string_view::npos) {
+        std::size_t searched = unread_.size();
+        if (searched > longest) { // from here on, only its end is of interest
+            is_too_long = true;
+            searched -= take(searched).size();
+        }
+        if (!read_on()) {
+            break;
+        }
+        end = unread_.find('\n', searched);
+    }
+    const bool is_ended = end != std::string_view::npos;
+    std::string_view text = take(end);
+    if (!is_ended && text.empty() && !is_too_long) {
+        return std::nullopt;
+    }
+    take(is_ended ? 1 : 0);
+    is_too_long = is_too_long || text.size() > longest;
+    return Line{is_too_long ? std::string_view{} : text, is_too_long};
 }
 
 } // namespace l2fib

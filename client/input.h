@@ -1,8 +1,7 @@
 // The files that the client reads, in pieces, so that a long one takes no more memory than a short one.
 #pragma once
 
-#include <cstdio>
-#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,35 +9,41 @@
 namespace l2fib
 {
 
-/// A file, or standard input for "-".
+/// A file, or standard input for "-". The texts that it returns stand until it is read on.
 class Input
 {
 public:
     explicit Input(const std::string &path);
+    ~Input();
+    Input(const Input &) = delete;
+    Input &operator=(const Input &) = delete;
 
     /// What is left of it, up to one byte more than `longest`.
-    std::string read_all(std::size_t longest);
+    std::string_view read_all(std::size_t longest);
 
-    enum class Line : bool { whole, too_long };
+    struct Line {
+        std::string_view text; ///< without its end
+        bool is_too_long;      ///< and has no text
+    };
 
-    /// Whether there is another line: its text without its end, or nothing of one that is longer than `longest`.
-    bool next_line(std::string &text, std::size_t longest, Line &line);
+    /// The next line, of at most `longest` bytes; none at the end of the file.
+    std::optional<Line> next_line(std::size_t longest);
 
     /// Why nothing more could be read; empty when all was.
     [[nodiscard]] const std::string &error() const { return error_; }
 
 private:
-    /// Whether there is anything left in the buffer, or read into it anew.
-    bool fill();
+    /// Adds to what is unread; false when there is nothing to add.
+    bool read_on();
 
-    struct Close {
-        void operator()(std::FILE *file) const;
-    };
+    std::string_view take(std::size_t size);
+    void fail();
 
-    std::unique_ptr<std::FILE, Close> file_;
+    std::string path_;
+    int file_;
+    bool is_at_end_ = false;
     std::vector<char> buffer_;
     std::string_view unread_; // of the buffer
-    std::string path_;
     std::string error_;
 };
 

@@ -51,6 +51,14 @@ private:
     std::map<std::tuple<std::string, std::string, std::uint32_t>, std::size_t> counts_;
 };
 
+/// Where a capture stands.
+struct Place {
+    const std::string &file;
+    std::size_t line;
+
+    [[nodiscard]] std::string text() const { return file + ":" + std::to_string(line); }
+};
+
 /// A run over files. What is wrong with a line is reported, and the rest goes on.
 class Replay
 {
@@ -69,8 +77,9 @@ public:
     }
 
 private:
-    void show(Capture &capture, const std::string &place);
-    void print_heading(const Capture &capture, const std::string &place);
+    void read_line(const Input::Line &line, const Place &place);
+    void show(Capture &capture, const Place &place);
+    void print_heading(const Capture &capture, const Place &place);
 
     void note(ExitStatus status) { exit_status_ = std::max(exit_status_, status); }
     void report(const std::string &what) // of a file
@@ -92,20 +101,12 @@ void Replay::file(const std::string &path)
 {
     constexpr std::size_t longest_line = 2 * longest_show_data + (std::size_t{64} << 10U);
     Input input(path);
-    std::string text;
-    Input::Line line{};
-    for (std::size_t number = 1; std::ferror(stdout) == 0 && input.next_line(text, longest_line, line); ++number) {
-        const std::string place = path + ":" + std::to_string(number);
-        if (line == Input::Line::too_long) {
-            report(place + ": line too long");
-        } else if (text.find_first_not_of(" \t\r") != std::string::npos) {
-            CaptureLine parsed = parser_.parse(text);
-            if (!parsed.error.empty()) {
-                report(place + ": " + parsed.error);
-            } else if (options_.selection.fits(parsed.capture)) {
-                show(parsed.capture, place);
-            }
+    for (std::size_t number = 1; std::ferror(stdout) == 0; ++number) {
+        const auto line = input.next_line(longest_line);
+        if (!line) {
+            break;
         }
+        read_line(*line, {path, number});
         progress_.step();
     }
     if (!input.error().empty()) {
@@ -113,7 +114,24 @@ void Replay::file(const std::string &path)
     }
 }
 
-void Replay::show(Capture &capture, const std::string &place)
+void Replay::read_line(const Input::Line &line, const Place &place)
+{
+    if (line.is_too_long) {
+        report(place.text() + ": line too long");
+        return;
+    }
+    if (line.text.find_first_not_of(" \t\r") == std::string_view::npos) {
+        return;
+    }
+    CaptureLine parsed = parser_.parse(line.text);
+    if (!parsed.error.empty()) {
+        report(place.text() + ": " + parsed.error);
+    } else if (options_.selection.fits(parsed.capture)) {
+        show(parsed.capture, place);
+    }
+}
+
+void Replay::show(Capture &capture, const Place &place)
 {
     const auto &failed = options_.selection.failed;
     std::uint32_t status = 0;
@@ -137,18 +155,18 @@ void Replay::show(Capture &capture, const std::string &place)
         note(status == 0 ? shown : view_failed);
     } else if (status != 0) {
         progress_.clear();
-        note(report_status(status, place + ": "));
+        note(report_status(status, place.text() + ": "));
     }
 }
 
-void Replay::print_heading(const Capture &capture, const std::string &place)
+void Replay::print_heading(const Capture &capture, const Place &place)
 {
     if (!options_.heading) {
         return;
     }
     const Choice *view = capture.shown_view();
     const std::string how = view == nullptr ? "" : std::string(" ") + capture.direction->name + " " + view->name;
-    std::printf("%s== %s: %s%s\n", is_first_ ? "" : "\n", place.c_str(), capture.object->name, how.c_str());
+    std::printf("%s== %s: %s%s\n", is_first_ ? "" : "\n", place.text().c_str(), capture.object->name, how.c_str());
     is_first_ = false;
 }
 

@@ -5,7 +5,7 @@
 namespace l2fib
 {
 
-static HexBytes bytes_of(const std::string &text, std::optional<HexForm> hex)
+static HexBytes bytes_of(std::string_view text, std::optional<HexForm> hex)
 {
     if (hex) {
         return read_hex(text, *hex, longest_show_data);
@@ -20,7 +20,7 @@ ShowDataFile read_show_data(const std::string &path, std::optional<HexForm> hex)
 {
     constexpr std::size_t longest_dump = 8 * longest_show_data; // with its offsets and characters
     Input input(path);
-    const std::string text = input.read_all(longest_dump);
+    const std::string_view text = input.read_all(longest_dump);
     if (!input.error().empty()) {
         return {{}, input.error()};
     }

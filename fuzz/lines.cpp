@@ -32,15 +32,13 @@ private:
 static void check_lines(const MemoryFile &file, std::string_view rest, std::size_t longest)
 {
     Input input(file.path());
-    std::string text;
-    auto line = Input::Line::whole;
-    while (input.next_line(text, longest, line)) {
+    while (const auto line = input.next_line(longest)) {
         require(!rest.empty(), "there are no more lines than the file has");
         const std::string_view expected = rest.substr(0, rest.find('\n'));
         rest.remove_prefix(std::min(expected.size() + 1, rest.size()));
         const bool fits = expected.size() <= longest;
-        require((line == Input::Line::whole) == fits, "a line is whole when it fits");
-        require(text == (fits ? expected : std::string_view{}), "the line is the file's");
+        require(line->is_too_long == !fits, "a line is too long when it does not fit");
+        require(line->text == (fits ? expected : std::string_view{}), "the line is the file's");
     }
     require(rest.empty() && input.error().empty(), "all lines were read");
 }
