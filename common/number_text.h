@@ -11,7 +11,7 @@
 namespace l2fib
 {
 
-/// The common ones of write_number: of no sign, and hex filled with zeros.
+/// What most numbers are written by: those without a sign, and hex filled with zeros.
 char *write_long_decimal(char *at, std::uint64_t value);
 char *write_long_right_aligned_decimal(char *at, unsigned width, std::uint64_t value);
 char *write_left_aligned_decimal(char *at, unsigned width, std::uint64_t value);
@@ -31,11 +31,11 @@ inline char *write_right_aligned_decimal(char *at, unsigned width, std::uint64_t
     return write_long_right_aligned_decimal(at, width, value);
 }
 
-/// Any of them.
+/// What all others are.
 char *write_padded_number(char *at, Conversion conversion, std::uint64_t value);
 
-/// Writes a number as printf would. The room is the caller's business: the width, or 20
-/// characters, and fill_slack behind them. Returns the end.
+/// Writes a number as printf would. The room is the caller's business: the width, or 20 characters, and fill_slack
+/// behind them. Returns the end.
 [[gnu::always_inline]] inline char *write_number(char *at, Conversion conversion, std::uint64_t value)
 {
     const bool is_decimal = conversion.kind == Conversion::decimal || conversion.kind == Conversion::unsigned_decimal;
