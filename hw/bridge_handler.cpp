@@ -137,8 +137,7 @@ std::uint32_t BridgeWalk::print_storm_control_of_bridge()
         return L2FIB_SHOW_ERR_NOMEM;
     }
     for (std::uint32_t np = 0; np < np_count(); ++np) {
-        profiles[np] = stored_profiles[np];
-        profiles[np].to_host();
+        profiles.fill_in(np, stored_profiles[np]);
     }
     if (has_storm_control(states[0])) {
         const auto &rate = profiles[0].rate;

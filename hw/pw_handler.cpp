@@ -71,24 +71,23 @@ static void print_paths(Output &out, std::uint32_t level, const Layer3Paths &pat
 }
 
 /// Prints the ingress part, where there is a whole one, from copies: the show data keeps it as received.
-static void print_vpls_ingress(Output &out, std::uint32_t level, ShowDataCursor &cursor, BridgePortContext &port,
-                               WorkingCopies<StormControlProfile> &profiles, std::uint32_t np_count)
+static void print_vpls_ingress(Output &out, std::uint32_t level, ShowDataCursor &cursor,
+                               WorkingCopies<BridgePortContext> &port, WorkingCopies<StormControlProfile> &profiles,
+                               std::uint32_t np_count)
 {
     const auto [ingress, stored_profiles] = cursor.take_together<PwIngressBlock, StormControlProfile>(1, np_count);
     if (ingress.empty()) {
         return;
     }
-    port = ingress[0].port;
-    port.to_host();
-    print_flooding(out, level, port);
+    port.fill_in(0, ingress[0].port);
+    print_flooding(out, level, port[0]);
 
     Layer3Paths paths = ingress[0].paths;
     paths.to_host();
     print_paths(out, level, paths);
 
     for (std::uint32_t np = 0; np < np_count; ++np) { // no line shows these
-        profiles[np] = stored_profiles[np];
-        profiles[np].to_host();
+        profiles.fill_in(np, stored_profiles[np]);
     }
 }
 
@@ -121,7 +120,7 @@ static std::uint32_t print_vpls(Output &out, std::uint32_t level, std::uint32_t 
         return short_data(out, level, data.size(), cursor.end());
     }
     if (direction == L2FIB_INGRESS) {
-        print_vpls_ingress(out, level, cursor, port[0], profiles, np_count);
+        print_vpls_ingress(out, level, cursor, port, profiles, np_count);
     }
     std::uint32_t status = 0;
     for (std::uint32_t np = 0; np < np_count; ++np) {
