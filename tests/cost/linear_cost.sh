@@ -23,7 +23,7 @@ linear() {
     fi
 }
 linear nps 2
-linear members 500
+linear members 1000 # whose numbers have four digits, most of them
 linear paths 1000
 linear lines 1000
 linear strings 4000
