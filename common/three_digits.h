@@ -20,7 +20,7 @@ struct ThreeDigits {
 
 inline constexpr auto three_digits = [] {
     std::array<ThreeDigits, ThreeDigits::limit> table{};
-    for (std::uint32_t value = 0; value < ThreeDigits::limit; ++value) {
+    for (std::uint32_t value = 0; value != ThreeDigits::limit; ++value) {
         const char hundreds = static_cast<char>('0' + value / 100);
         const char tens = static_cast<char>('0' + value / 10 % 10);
         const char units = static_cast<char>('0' + value % 10);
