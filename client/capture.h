@@ -39,11 +39,18 @@ CaptureLine parse_capture(std::string_view line);
 class CaptureParser
 {
 public:
-    CaptureLine parse(std::string_view line);
+    /// What is on a line. It stands until the next one is parsed.
+    CaptureLine &parse(std::string_view line);
 
 private:
+    struct Parts;
+    bool read_as_known(const Parts &parts);
+    CaptureLine read_anew(std::string_view line, const Parts &parts);
+
     std::unordered_map<std::string, Capture> known_; ///< by the line without its digits
-    std::string frame_;                              ///< of the line at hand
+    std::string frame_;                              ///< the line at hand without them
+    std::string back_;                               ///< of the last line: what was behind them
+    CaptureLine result_;
 };
 
 /// The line of a capture, without its end.

@@ -4,6 +4,7 @@
 #include "client/hex.h"
 
 #include <charconv>
+#include <cstring>
 #include <limits>
 #include <nlohmann/json.hpp>
 
@@ -12,6 +13,8 @@ namespace l2fib
 
 /// What is known of a capture while its members come in, in any order.
 struct Draft {
+    Draft() { capture.router.time_zone = "UTC0"; }
+
     Capture capture;
     std::optional<std::uint64_t> monotonic_seconds;
     std::optional<std::uint64_t> wall_seconds;
@@ -214,16 +217,17 @@ static const char *missing(const Draft &draft)
                : "one of monotonic_seconds and wall_seconds without the other";
 }
 
-/// The digits of the show data on a line; nothing, at its end, when they are not found.
-static std::string_view find_digits(std::string_view line)
+/// Where the digits of the show data begin on a line, if they are found.
+static std::optional<std::size_t> find_digits(std::string_view line)
 {
     constexpr std::string_view key = "\"show_data\":";
-    const std::size_t found = line.find(key);
-    const std::size_t quote = found == std::string_view::npos ? found : line.find_first_not_of(' ', found + key.size());
-    if (quote == std::string_view::npos || line[quote] != '"') {
-        return line.substr(line.size());
+    const void *found = memmem(line.data(), line.size(), key.data(), key.size()); // quicker than find
+    if (found == nullptr) {
+        return std::nullopt;
     }
-    return line.substr(quote + 1, line.find('"', quote + 1) - (quote + 1));
+    const auto behind_key = static_cast<std::size_t>(static_cast<const char *>(found) - line.data()) + key.size();
+    const std::size_t quote = line.find_first_not_of(' ', behind_key);
+    return quote != std::string_view::npos && line[quote] == '"' ? std::optional(quote + 1) : std::nullopt;
 }
 
 /// What the parser made of a line.
@@ -242,38 +246,44 @@ static CaptureLine finish(CaptureReader &reader, bool is_read)
     return {std::move(draft.capture), {}};
 }
 
-CaptureLine CaptureParser::parse(std::string_view line)
+/// A line, taken apart at the digits of its show data.
+struct CaptureParser::Parts {
+    std::string_view front;
+    std::string_view digits;
+    std::string_view back;
+};
+
+bool CaptureParser::read_as_known(const Parts &parts)
+{
+    frame_ = parts.front;
+    frame_ += '\n'; // which no line has
+    frame_ += parts.back;
+    const auto found = known_.find(frame_);
+    if (found == known_.end()) {
+        return false;
+    }
+    result_.error.clear();
+    result_.capture = found->second;
+    return append_hex(result_.capture.show_data, parts.digits);
+}
+
+/// Nearly all of a line are its digits, which take no parser: it is given the line without them.
+CaptureLine CaptureParser::read_anew(std::string_view line, const Parts &parts)
 {
     CaptureReader reader;
     Draft &draft = reader.draft;
-    draft.capture.router.time_zone = "UTC0";
-
-    // Nearly all of a line are the digits of the show data, which take no parser: it is given the line without them.
-    const std::string_view digits = find_digits(line);
-    draft.show_data_apart = bytes_of_hex(digits);
-    if (digits.empty() || !draft.show_data_apart) {
+    draft.show_data_apart = bytes_of_hex(parts.digits);
+    if (!draft.show_data_apart) {
         return finish(reader, Json::sax_parse(line, &reader));
     }
-    const auto begin = static_cast<std::size_t>(digits.data() - line.data());
-    const std::string_view front = line.substr(0, begin);
-    const std::string_view back = line.substr(begin + digits.size());
-    frame_ = front;
-    frame_ += '\n'; // which no line has
-    frame_ += back;
-    if (const auto found = known_.find(frame_); found != known_.end()) {
-        CaptureLine known{found->second, {}};
-        known.capture.show_data = std::move(*draft.show_data_apart);
-        return known;
-    }
-
     // Longer than any other text that the line can hold: the digits that were found may be of another member.
-    draft.stand_in.assign(front.size() + back.size(), '*');
-    std::string rest(front);
+    draft.stand_in.assign(parts.front.size() + parts.back.size(), '*');
+    std::string rest(parts.front);
     rest += draft.stand_in;
-    rest += back;
+    rest += parts.back;
     const bool is_read = Json::sax_parse(rest, &reader);
-    if (draft.broken_at > begin) {
-        draft.broken_at += digits.size();
+    if (draft.broken_at > parts.front.size()) {
+        draft.broken_at += parts.digits.size();
         draft.broken_at -= draft.stand_in.size();
     }
     const bool took_digits = !draft.show_data_apart;
@@ -290,9 +300,32 @@ CaptureLine CaptureParser::parse(std::string_view line)
     return parsed;
 }
 
+CaptureLine &CaptureParser::parse(std::string_view line)
+{
+    const std::optional<std::size_t> begin = find_digits(line);
+    if (!begin) {
+        CaptureReader reader;
+        const bool is_read = Json::sax_parse(line, &reader);
+        return result_ = finish(reader, is_read);
+    }
+    const std::string_view front = line.substr(0, *begin);
+    const std::string_view behind = line.substr(*begin);
+    // Lines end alike, mostly. Where the digits end before, a '"' is among what is taken for them, and refused.
+    if (behind.ends_with(back_) && read_as_known({front, behind.substr(0, behind.size() - back_.size()), back_})) {
+        return result_;
+    }
+    const std::size_t end = std::min(behind.find('"'), behind.size());
+    back_ = behind.substr(end);
+    const Parts parts{front, behind.substr(0, end), back_};
+    if (!read_as_known(parts)) {
+        result_ = read_anew(line, parts);
+    }
+    return result_;
+}
+
 CaptureLine parse_capture(std::string_view line)
 {
-    return CaptureParser{}.parse(line);
+    return std::move(CaptureParser{}.parse(line));
 }
 
 std::string format_capture(const Capture &capture)

@@ -68,8 +68,7 @@ static bool decode_digits(std::uint8_t *at, std::string_view digits)
 }
 #endif
 
-/// Appends the bytes of hex digits; false when there is half a byte or no hex.
-static bool append_digits(std::vector<std::uint8_t> &bytes, std::string_view digits)
+bool append_hex(std::vector<std::uint8_t> &bytes, std::string_view digits)
 {
     if (digits.size() % 2 != 0) {
         return false;
@@ -93,7 +92,7 @@ static bool append_digits(std::vector<std::uint8_t> &bytes, std::string_view dig
 std::optional<std::vector<std::uint8_t>> bytes_of_hex(std::string_view digits)
 {
     std::vector<std::uint8_t> bytes;
-    return append_digits(bytes, digits) ? std::optional(std::move(bytes)) : std::nullopt;
+    return append_hex(bytes, digits) ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 std::string hex_of_bytes(const std::vector<std::uint8_t> &bytes)
@@ -169,7 +168,7 @@ bool HexReader::read_words(std::string_view words)
         if (bytes_.size() + word.size() / 2 > longest_) {
             return fail("more bytes than any show data has");
         }
-        if (!append_digits(bytes_, word)) {
+        if (!append_hex(bytes_, word)) {
             return fail("not pairs of hex digits");
         }
     }

@@ -25,6 +25,9 @@ struct HexBytes {
 /// Reads a dump of up to `longest` bytes.
 HexBytes read_hex(std::string_view text, HexForm form, std::size_t longest);
 
+/// Appends the bytes of pairs of hex digits with nothing between them; false, and whatever bytes, for something else.
+bool append_hex(std::vector<std::uint8_t> &bytes, std::string_view digits);
+
 /// The bytes of pairs of hex digits with nothing between them; none when it is something else.
 std::optional<std::vector<std::uint8_t>> bytes_of_hex(std::string_view digits);
 

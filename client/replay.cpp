@@ -123,7 +123,7 @@ void Replay::read_line(const Input::Line &line, const Place &place)
     if (line.text.find_first_not_of(" \t\r") == std::string_view::npos) {
         return;
     }
-    CaptureLine parsed = parser_.parse(line.text);
+    CaptureLine &parsed = parser_.parse(line.text);
     if (!parsed.error.empty()) {
         report(place.text() + ": " + parsed.error);
     } else if (options_.selection.fits(parsed.capture)) {

@@ -79,7 +79,7 @@ TEST(Capture, LinesThatDifferInTheirDigitsOnly)
 {
     CaptureParser parser;
     const auto parsed = [&](const std::string &line) {
-        const CaptureLine result = parser.parse(line);
+        const CaptureLine &result = parser.parse(line);
         return result.error.empty() ? format_capture(result.capture) : result.error;
     };
     const std::string front = R"({"object":"ac","node":1,"card":"0x1e1000","direction":"egress","view":"detail",)"
