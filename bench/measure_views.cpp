@@ -1,8 +1,9 @@
 // How long the views take, for each sample and for a mix of a hundred thousand objects: the library, the same views
 // with every piece of text through printf (the baseline), and their text, ready, through one fwrite an object (the
-// floor).
+// floor); and how long it takes to read captures.
 #include "client/capture.h"
 #include "client/held_output.h"
+#include "client/input.h"
 #include "examples/sample_lines.h"
 #include "zel_l2fib/show.h"
 
@@ -53,29 +54,42 @@ static Library load_baseline()
     return baseline;
 }
 
+using Bytes = std::vector<std::uint8_t>;
+
+/// Shows a capture by a copy of its show data, which the view converts in place.
+using Show = void (*)(const Library &library, const Capture &capture, Bytes &scratch);
+
+/// How an object is shown.
+static Show show_of(const Object &object)
+{
+    if (object.has_views()) {
+        return [](const Library &library, const Capture &capture, Bytes &scratch) {
+            library.object(capture.object->objtype, capture.node, capture.direction->number,
+                           capture.shown_view()->number, scratch.data(), scratch.size());
+        };
+    }
+    if (object.name == std::string_view("summary")) {
+        return [](const Library &library, const Capture &capture, Bytes &scratch) {
+            library.summary(capture.node, 0, scratch.data(), scratch.size());
+        };
+    }
+    if (object.name == std::string_view("counters")) {
+        return [](const Library &library, const Capture &capture, Bytes &scratch) {
+            library.counters(capture.node, 0, scratch.data(), scratch.size());
+        };
+    }
+    return [](const Library &library, const Capture & /*capture*/, Bytes &scratch) {
+        library.hal_summary(0, scratch.data(), scratch.size());
+    };
+}
+
 /// A sample, ready to be shown in each of the three ways.
 struct Subject {
     std::string name;
     Capture capture;
+    Show show;
     std::string text;
 };
-
-/// Shows a subject by a copy of its show data, which the view converts in place.
-static void show(const Library &library, const Subject &subject, std::vector<std::uint8_t> &scratch)
-{
-    const Capture &capture = subject.capture;
-    const std::string_view object = capture.object->name;
-    if (capture.object->has_views()) {
-        library.object(capture.object->objtype, capture.node, capture.direction->number, capture.shown_view()->number,
-                       scratch.data(), scratch.size());
-    } else if (object == "summary") {
-        library.summary(capture.node, 0, scratch.data(), scratch.size());
-    } else if (object == "counters") {
-        library.counters(capture.node, 0, scratch.data(), scratch.size());
-    } else {
-        library.hal_summary(0, scratch.data(), scratch.size());
-    }
-}
 
 /// Standard output, for as long as this lives: /dev/null, or a pipe that somebody empties.
 class Sink
@@ -118,7 +132,7 @@ private:
 struct Measurement {
     std::string name;
     std::vector<const Subject *> subjects;
-    std::function<void(const Subject &subject, std::vector<std::uint8_t> &scratch)> print;
+    std::function<void(const Subject &subject, Bytes &scratch)> print;
     bool is_pipe;
 };
 
@@ -138,7 +152,7 @@ static void measure(benchmark::State &state, const Measurement &measurement)
     }
     const Sink sink(measurement.is_pipe);
     constexpr std::size_t batch = 100;
-    std::vector<std::vector<std::uint8_t>> scratch(batch);
+    std::vector<Bytes> scratch(batch);
     while (state.KeepRunning()) {
         double spent = 0;
         for (std::size_t done = 0; done < subjects.size(); done += batch) {
@@ -162,8 +176,54 @@ static void measure(benchmark::State &state, const Measurement &measurement)
     state.SetItemsProcessed(iterations * static_cast<std::int64_t>(measurement.subjects.size()));
 }
 
+/// A file of captures: so many of them, the samples in turn.
+class CaptureFile
+{
+public:
+    explicit CaptureFile(std::size_t count) : file_(std::tmpfile())
+    {
+        std::string lines;
+        for (std::size_t done = 0; done < count; ++done) {
+            lines += sample_line(sample_captures[done % std::size(sample_captures)]) + '\n';
+        }
+        // At once: what is written in small pieces lies in small pieces in the system's cache, and is read slower.
+        if (file_ == nullptr || std::fwrite(lines.data(), 1, lines.size(), file_) != lines.size() ||
+            std::fflush(file_) != 0) {
+            std::perror("measure-views: a temporary file");
+            std::exit(2);
+        }
+    }
+    ~CaptureFile() { std::fclose(file_); }
+    CaptureFile(const CaptureFile &) = delete;
+    CaptureFile &operator=(const CaptureFile &) = delete;
+
+    [[nodiscard]] std::string path() const { return "/proc/self/fd/" + std::to_string(fileno(file_)); }
+
+private:
+    std::FILE *file_;
+};
+
+constexpr const char *reading = "reading captures";
+constexpr std::size_t captures_read = 10'000;
+
+/// Reads captures as replay does, without showing them.
+static void measure_reading(benchmark::State &state, const CaptureFile &file)
+{
+    constexpr std::size_t longest_line = std::size_t{1} << 20U;
+    while (state.KeepRunning()) {
+        const double begin = cpu_seconds();
+        Input input(file.path());
+        CaptureParser parser;
+        while (const auto line = input.next_line(longest_line)) {
+            benchmark::DoNotOptimize(parser.parse(line->text));
+        }
+        state.SetIterationTime(cpu_seconds() - begin);
+    }
+    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * captures_read));
+}
+
 /// Prints a line when a subject is measured in every way: the library's, the baseline's and the floor's, to /dev/null
-/// and then to a pipe.
+/// and then to a pipe. What reading takes is compared with the line before.
 class TableReporter : public benchmark::BenchmarkReporter
 {
 public:
@@ -183,7 +243,12 @@ public:
     void ReportRuns(const std::vector<Run> &runs) override
     {
         const Run &run = runs.front();
-        ns_.push_back(1e9 / run.counters.at("items_per_second"));
+        const double ns = 1e9 / run.counters.at("items_per_second");
+        if (run.run_name.function_name == reading) {
+            std::fprintf(out_, "%-18s|%9.0f, %.1f times as long as to print\n", reading, ns, ns / printing_ns_);
+            return;
+        }
+        ns_.push_back(ns);
         if (ns_.size() % 3 == 1) {
             bytes_per_second_.push_back(run.counters.at("bytes_per_second"));
         }
@@ -198,12 +263,14 @@ public:
         }
         std::fprintf(out_, "\n");
         std::fflush(out_);
+        printing_ns_ = ns_.front();
         ns_.clear();
         bytes_per_second_.clear();
     }
 
 private:
     std::FILE *out_;
+    double printing_ns_ = 0; // to /dev/null, of the last line
     std::vector<double> ns_;
     std::vector<double> bytes_per_second_;
 };
@@ -213,9 +280,11 @@ static std::vector<Subject> make_subjects()
     std::vector<Subject> subjects;
     HeldOutput held;
     for (const SampleCapture &sample : sample_captures) {
-        Subject subject{sample.name, parse_capture(sample_line(sample)).capture, {}};
-        std::vector<std::uint8_t> scratch = subject.capture.show_data;
-        subject.text = held.text_of([&] { show(the_library, subject, scratch); });
+        Capture capture = parse_capture(sample_line(sample)).capture;
+        const Show show = show_of(*capture.object);
+        Bytes scratch = capture.show_data;
+        const std::string_view text = held.text_of([&] { show(the_library, capture, scratch); });
+        Subject subject{sample.name, std::move(capture), show, std::string(text)};
         subjects.push_back(std::move(subject));
     }
     return subjects;
@@ -225,11 +294,10 @@ static std::vector<Subject> make_subjects()
 static void add(std::vector<Measurement> &measurements, const std::string &name,
                 const std::vector<const Subject *> &subjects, const Library &baseline)
 {
-    using Bytes = std::vector<std::uint8_t>;
     for (const bool is_pipe : {false, true}) {
         const auto add = [&](const auto &print) { measurements.push_back({name, subjects, print, is_pipe}); };
-        add([](const Subject &subject, Bytes &scratch) { show(the_library, subject, scratch); });
-        add([&](const Subject &subject, Bytes &scratch) { show(baseline, subject, scratch); });
+        add([](const Subject &subject, Bytes &scratch) { subject.show(the_library, subject.capture, scratch); });
+        add([&](const Subject &subject, Bytes &scratch) { subject.show(baseline, subject.capture, scratch); });
         add([](const Subject &subject, Bytes &) { std::fwrite(subject.text.data(), 1, subject.text.size(), stdout); });
     }
 }
@@ -255,6 +323,10 @@ static int run(int argc, char **argv)
             measure(state, measurement);
         })->UseManualTime();
     }
+    const CaptureFile file(captures_read);
+    benchmark::RegisterBenchmark(reading, [&file](benchmark::State &state) {
+        measure_reading(state, file);
+    })->UseManualTime();
     TableReporter reporter(fdopen(dup(STDOUT_FILENO), "w"));
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;
