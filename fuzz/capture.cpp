@@ -1,5 +1,5 @@
-// Proves that any line can be read as a capture, that what is read is what the line says, that it is written as a line
-// which is read as the same, and that showing it keeps to its show data.
+// Proves that any line can be read as a capture, that what is read is what the line says, whatever lines came before,
+// that it is written as a line which is read as the same, and that showing it keeps to its show data.
 #include "client/capture.h"
 #include "client/hex.h"
 #include "fuzz/exact_copy.h"
@@ -18,12 +18,16 @@ static std::string lower(std::string digits)
     return digits;
 }
 
-static void check(std::string_view line)
+/// A line of a file, by a parser that has read the lines before it.
+static void check(std::string_view line, CaptureParser &parser)
 {
     const CaptureLine read = parse_capture(line);
+    const CaptureLine &read_in_turn = parser.parse(line);
+    require(read_in_turn.error == read.error, "a line is as good as it is alone");
     if (!read.error.empty()) {
         return;
     }
+    require(format_capture(read_in_turn.capture) == format_capture(read.capture), "a line says what it says alone");
     const Capture &capture = read.capture;
     const auto members = nlohmann::json::parse(line);
     require(lower(members.at("show_data")) == hex_of_bytes(capture.show_data), "the show data is the line's");
@@ -45,6 +49,12 @@ static void check(std::string_view line)
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    l2fib::check({reinterpret_cast<const char *>(data), size});
+    std::string_view rest(reinterpret_cast<const char *>(data), size);
+    l2fib::CaptureParser parser;
+    while (!rest.empty()) {
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        l2fib::check(line, parser);
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+    }
     return 0;
 }

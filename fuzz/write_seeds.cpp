@@ -146,6 +146,14 @@ int main(int argc, char **argv)
                 "*\n"
                 "00000020  41 42 43  |ABC|\n"
                 "00000023\n");
+    seeds.write("capture", "alike",
+                R"({"show_data": "00", "object": "mac"})"
+                "\n"
+                R"({"object": "mac", "show_data": "00"})"
+                "\n"
+                R"({"object": "mac", "show_data": "01"})"
+                "\n"
+                R"({"show_data": "01", "object": "mac"})");
     seeds.write("capture", "every-member",
                 R"({"object": "ac", "node": 18, "card": "0x1e1003", "direction": "egress", "view": "private", )"
                 R"("monotonic_seconds": 12, "wall_seconds": "1763900000", "time_zone": "<+03>-3", )"
