@@ -10,8 +10,11 @@
 namespace l2fib
 {
 
-/// Copies by libc. Of an assignment compilers make a loop of their own, which takes longer for a record of a few KiB
-/// than to print it.
+// Both by libc. What compilers make of a fill or an assignment of a few KiB takes longer than to print the record.
+
+/// Memory for the caller to free, or null. Every byte of it is `fill`.
+void *obtain_bytes(std::size_t size, std::uint8_t fill);
+
 void copy_bytes(void *to, const void *from, std::size_t size);
 
 /// Records on the heap for as long as their view runs: the only memory that the library allocates.
@@ -22,11 +25,8 @@ class WorkingCopies
 
 public:
     WorkingCopies(std::size_t count, std::uint8_t fill)
-        : records_(static_cast<Record *>(std::malloc(count * sizeof(Record))))
+        : records_(static_cast<Record *>(obtain_bytes(count * sizeof(Record), fill)))
     {
-        if (records_ != nullptr) {
-            std::memset(static_cast<void *>(records_), fill, count * sizeof(Record));
-        }
     }
     ~WorkingCopies() { std::free(records_); }
     WorkingCopies(const WorkingCopies &) = delete;

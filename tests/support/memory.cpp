@@ -9,27 +9,15 @@ static int live_allocations = 0;
 // functions
 extern "C" {
 void *__real_malloc(size_t size);
-void *__real_calloc(size_t count, size_t size);
 void __real_free(void *memory);
-
-static bool may_allocate()
-{
-    if (allocations_until_failure > 0 && --allocations_until_failure == 0) {
-        return false;
-    }
-    ++live_allocations;
-    return true;
-}
 
 void *__wrap_malloc(size_t size)
 {
-    return may_allocate() ? __real_malloc(size) : nullptr;
-}
-
-// A compiler makes one call of malloc and memset.
-void *__wrap_calloc(size_t count, size_t size)
-{
-    return may_allocate() ? __real_calloc(count, size) : nullptr;
+    if (allocations_until_failure > 0 && --allocations_until_failure == 0) {
+        return nullptr;
+    }
+    ++live_allocations;
+    return __real_malloc(size);
 }
 
 void __wrap_free(void *memory)
