@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
-#include <safe_mem_lib.h>
 #include <type_traits>
 
 namespace l2fib
@@ -53,7 +52,6 @@ template <class Record>
 Record private_copy(const Record &received)
 {
     Record copy;
-    memset_s(&copy, sizeof copy, 0, sizeof copy);
     copy_bytes(&copy, &received, sizeof copy);
     copy.to_host();
     return copy;

@@ -5,8 +5,21 @@
 #include "common/hal_print.h"
 #include "common/working_copies.h"
 
+#include <safe_mem_lib.h>
+
 namespace l2fib
 {
+
+/// A private copy that at no time holds anything but zeros and what was received.
+template <class Table>
+static Table cleared_private_copy(const Table &received)
+{
+    Table copy;
+    memset_s(&copy, sizeof copy, 0, sizeof copy);
+    copy_bytes(&copy, &received, sizeof copy);
+    copy.to_host();
+    return copy;
+}
 
 constexpr Literal rule = "--------------------------------------------------------------------\n";
 
@@ -56,14 +69,14 @@ uint32_t zel_l2fib_platform_msg_counter_hw_print_internal(uint32_t node_id, uint
     if (counts == nullptr) {
         return wrong_summary_size(out, __func__, size);
     }
-    print_counts(out, private_copy(*counts));
+    print_counts(out, cleared_private_copy(*counts));
 
     const ShowData rest = data.from(sizeof(EventCounts));
     const auto *times = rest.at<EventTimes>(0);
     if (times == nullptr) {
         return wrong_summary_size(out, __func__, rest.size());
     }
-    print_times(out, private_copy(*times));
+    print_times(out, cleared_private_copy(*times));
     return hand_over_summary(out, node_id, hw_arg, rest.from(sizeof(EventTimes)),
                              &zel_l2fib_hal_print_row::statistics_print);
 }
