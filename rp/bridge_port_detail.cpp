@@ -65,7 +65,7 @@ void print_bridge_port_detail(Output &out, std::uint32_t direction, std::uint8_t
 
     List flags{out, 2, "Flags"};
     const std::uint32_t words[] = {set_flags(port.flags), set_flags(port.features.features),
-                                   set_flags(port.features.more)};
+                                   set_flags(port.features.more)}; // by PortFlag::Word
     for (const PortFlag &flag : port_flags) {
         flags.item_if(is_set(words[flag.word], flag.number), "%s", flag.text);
     }
