@@ -20,8 +20,9 @@ struct Capture {
     /// Null for what has no views.
     [[nodiscard]] const Choice *shown_view() const { return view != nullptr ? view : object->default_view; }
 
-    /// Shows it. The show data is converted on the way, so this is done once. Returns the library's status.
-    std::uint32_t show() { return show(show_data); }
+    /// Shows it, without any show data where it has no bytes. The show data is converted on the way, so this is done
+    /// once. Returns the library's status.
+    std::uint32_t show() { return show(show_data.empty() ? std::span<std::uint8_t>{} : show_data); }
 
     /// Shows other show data in place of its own, as the same object on the same router.
     std::uint32_t show(std::span<std::uint8_t> other_data) const;

@@ -89,6 +89,9 @@ TEST(Capture, LinesThatDifferInTheirDigitsOnly)
     }
     EXPECT_EQ(parsed(front + "abc\"}"), "show_data: not pairs of hex digits");
     EXPECT_EQ(parsed(front + "\"}"), front + "\"}");
+    parsed(front + "00\"}"); // leaves room behind
+    const Shown empty = shown([&] { return parser.parse(front + "\"}").capture.show(); });
+    EXPECT_EQ(empty, shown([&] { return parse_capture(front + "\"}").capture.show(); }));
 
     // Of a line whose first digits are another member's, nothing is kept.
     EXPECT_EQ(parsed(R"({"x":{"show_data":"11"},"object":"mac","show_data":"22"})").find(R"("show_data":"22")"),
