@@ -157,14 +157,21 @@ static void add_vpls_ac(Shape &shape, std::uint32_t direction)
     shape.add<VplsIngressTrailer>();
 }
 
+/// What ACs and PWs have in common.
+template <class Circuit>
+static void mark_circuit(Shape &shape, std::size_t at)
+{
+    shape.wire<U32>(at + offsetof(Circuit, context.service), services);
+    shape.wire<U32>(at + offsetof(Circuit, context.state), states);
+    shape.wire<U32>(at + offsetof(Circuit, context.flags), flags);
+    shape.wire<U32>(at + offsetof(Circuit, context.shg), groups);
+}
+
 static void add_ac(Shape &shape, const Call &call)
 {
     const auto [at, ac] = shape.add<AcShowData>();
     shape.wire<U16>(at + offsetof(AcShowData, np_count), np_counts);
-    shape.wire<U32>(at + offsetof(AcShowData, context.service), services);
-    shape.wire<U32>(at + offsetof(AcShowData, context.state), states);
-    shape.wire<U32>(at + offsetof(AcShowData, context.flags), flags);
-    shape.wire<U32>(at + offsetof(AcShowData, context.shg), groups);
+    mark_circuit<AcShowData>(shape, at);
     shape.host<U32>(at + offsetof(AcShowData, context.requested_np), requested_nps);
     const std::uint32_t np_count = ac.np_count.from_wire();
     shape.skip((np_count & 0xffU) * np_entry_size);
@@ -183,10 +190,7 @@ static void add_pw(Shape &shape, const Call &call)
 {
     const auto [at, pw] = shape.add<PwShowData>();
     shape.wire<U32>(at + offsetof(PwShowData, np_count), np_counts);
-    shape.wire<U32>(at + offsetof(PwShowData, context.service), services);
-    shape.wire<U32>(at + offsetof(PwShowData, context.state), states);
-    shape.wire<U32>(at + offsetof(PwShowData, context.flags), flags);
-    shape.wire<U32>(at + offsetof(PwShowData, context.shg), groups);
+    mark_circuit<PwShowData>(shape, at);
     const std::size_t nps = followed(pw.np_count.from_wire());
     if (pw.context.service.from_wire() != service_vpls) {
         for (std::size_t np = 0; np < nps; ++np) {
