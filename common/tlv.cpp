@@ -129,13 +129,13 @@ static std::uint32_t print_stream(Report &report, ShowData &rest)
             return report.error("ERROR: Output has been truncated!\n");
         }
         const auto *header = rest.at<TlvHeader>(0);
-        if (header == nullptr || header->length < sizeof *header || header->length > rest.size()) {
+        if (header == nullptr || header->length > rest.size()) {
             return report.error(invalid_size);
         }
         if (type < tlv_number || type > tlv_end_of_stream) {
             return report.error("ERROR: Unrecognized TLV type: %d\n", type);
         }
-        if (!print_record(report, *header, rest.first(header->length))) {
+        if (header->length < sizeof *header || !print_record(report, *header, rest.first(header->length))) {
             return report.error(invalid_size);
         }
         rest = rest.from(header->length);

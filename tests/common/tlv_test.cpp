@@ -109,7 +109,12 @@ TEST(Tlv, Errors)
         {{}, {0, 3, 1}, "  " + type + "0\n"},
         {number(1), {7, 3, 1}, "  1 \n  " + type + "7\n"},
         {{}, {255, 255, 1}, "  " + size},
-        {{}, {0, 2, 1}, "  " + size},
+        {{}, {0, 2, 1}, "  " + type + "0\n"},
+        {number(1), {0, 0, 0}, "  1 \n  " + type + "0\n"},
+        {{}, {255, 0, 1}, "  " + type + "255\n"},
+        {{}, {5, 0, 1}, "  " + size},
+        {{}, {3, 2, 1}, "  " + size},
+        {{}, {0, 4, 1}, "  " + size}, // longer than what remains, whatever its type
         {{}, {0}, "  " + size},
     };
     for (const auto &c : cases) {
