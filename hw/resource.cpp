@@ -170,7 +170,13 @@ static void print_np(Output &out, std::uint32_t np, const ResourceData &received
     print_time_totals(out, totals);
 }
 
-std::uint32_t zel_l2fib_trident_print_resource(Output &out, std::uint32_t level, ShowData data)
+/// The size to judge by: the one that the producer gives, unless it is right and fewer bytes came.
+static std::uint64_t size_to_judge(std::uint64_t length, std::uint64_t expected, ShowData data)
+{
+    return length == expected ? std::min(length, data.size()) : length;
+}
+
+std::uint32_t zel_l2fib_trident_print_resource(Output &out, std::uint32_t level, ShowData data, std::uint64_t length)
 {
     if (data.is_null()) {
         out.line(level);
@@ -183,15 +189,14 @@ std::uint32_t zel_l2fib_trident_print_resource(Output &out, std::uint32_t level,
         print_invalid_np_count(out, np_count);
         return 0;
     }
-    const auto *received = data.at<ResourceData>(0);
-    const auto total_macs = data.array_at<const U32>(sizeof(ResourceData), np_count);
     const std::uint64_t expected = sizeof(ResourceData) + sizeof(U32) * np_count;
-    if (data.size() != expected) { // the sizes shown leave the NP count out
-        out.line(level, "%s: invalid data size: %d, expecting %d\n", __func__,
-                 static_cast<std::uint32_t>(data.size() - sizeof(U32)),
-                 static_cast<std::uint32_t>(expected - sizeof(U32)));
+    if (const std::uint64_t size = size_to_judge(length, expected, data); size != expected) {
+        out.line(level, "%s: invalid data size: %d, expecting %d\n", __func__, // both without the NP count
+                 static_cast<std::uint32_t>(size - sizeof(U32)), static_cast<std::uint32_t>(expected - sizeof(U32)));
         return L2FIB_SHOW_ERR_DATA;
     }
+    const auto *received = data.at<ResourceData>(0);
+    const auto total_macs = data.array_at<const U32>(sizeof(ResourceData), np_count);
     for (std::uint32_t np = 0; np < np_count; ++np) {
         print_np(out, np, *received, total_macs[np].from_wire());
     }

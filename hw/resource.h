@@ -53,6 +53,8 @@ struct ResourceShowData {
     U32 unread_4;
 };
 
-std::uint32_t zel_l2fib_trident_print_resource(Output &out, std::uint32_t level, ShowData data);
+/// Prints the resource data that `data` begins with; `length` is what its producer says of its size. Statuses: 0,
+/// L2FIB_SHOW_ERR_ARGS for null data, L2FIB_SHOW_ERR_DATA.
+std::uint32_t zel_l2fib_trident_print_resource(Output &out, std::uint32_t level, ShowData data, std::uint64_t length);
 
 } // namespace l2fib

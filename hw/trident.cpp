@@ -96,12 +96,14 @@ static std::uint32_t print_mac(Output &out, std::uint32_t level, ShowData data)
 
 static std::uint32_t print_received_resources(Output &out, std::uint32_t level, ShowData data)
 {
-    const auto *head = data.at<const ResourceShowData>(0);
-    if (head != nullptr) {
-        return zel_l2fib_trident_print_resource(out, level, data.from(sizeof *head).first(head->length.from_wire()));
+    if (data.is_null()) {
+        return zel_l2fib_trident_print_resource(out, level, data, 0);
     }
-    return data.is_null() ? zel_l2fib_trident_print_resource(out, level, data)
-                          : short_data(out, level, data.size(), sizeof *head);
+    const auto *head = data.at<const ResourceShowData>(0);
+    if (head == nullptr) {
+        return short_data(out, level, data.size(), sizeof *head);
+    }
+    return zel_l2fib_trident_print_resource(out, level, data.from(sizeof *head), head->length.from_wire());
 }
 
 static std::uint32_t print_resources(Output &out, std::uint32_t level, ShowData data)

@@ -91,6 +91,11 @@ TEST(Resources, SizesThatDoNotFit)
     EXPECT_EQ(show_resources(13256, resources_of(9, 4)),
               Shown{"\n  Error: Number of NPs (9) returned more than supported(8)"});
     EXPECT_EQ(show_resources(13256, resources_of(0, 4)), Shown{"\n  Error: Number of NPs (0) returned is invalid"});
+    EXPECT_EQ(show_resources(3, resources_of(9, 13256)),
+              Shown{"\n  Error: Number of NPs (9) returned more than supported(8)"});
+    EXPECT_EQ(show_resources(20000, resources_of(1, 13256)), size_failure("19996, expecting 13252"));
+    EXPECT_EQ(show_resources(20000, resources_of(1, 20000)), size_failure("19996, expecting 13252"));
+    EXPECT_EQ(show_resources(13255, {}), size_failure("13251, expecting 13252"));
     EXPECT_EQ(show_resources(13256, resources_of(1, 20000)).status, 0U); // what follows the length is not looked at
     EXPECT_EQ(show_resources(13284, resources_of(8, 13284)).status, 0U);
 
