@@ -10,6 +10,9 @@ uint8_t ipmc_bvi_stat[256] = {};
 namespace l2fib
 {
 
+/// The row of the supported family. Views hand over only after their own check of the card: the router is not asked again.
+constexpr std::size_t supported_card = 1;
+
 bool card_is_supported(Output &out, std::uint32_t node_id)
 {
     if (zel_l2fib_get_cardtype(node_id) != 0) {
@@ -38,7 +41,6 @@ std::optional<std::uint32_t> summary_refusal(Output &out, const char *view, cons
 
 void fill_hal_print()
 {
-    constexpr std::size_t supported_card = 1;
     for (zel_l2fib_hal_print_row &row : zel_l2fib_hal_print) {
         row = {};
     }
@@ -47,7 +49,7 @@ void fill_hal_print()
 
 std::uint32_t hand_over(Output &out, std::uint32_t level, const ViewRequest &request)
 {
-    const auto object_print = zel_l2fib_hal_print[zel_l2fib_get_cardtype(request.node_id)].object_print;
+    const auto object_print = zel_l2fib_hal_print[supported_card].object_print;
     if (object_print == nullptr) {
         return 0;
     }
@@ -66,7 +68,7 @@ std::uint32_t hand_over_summary(Output &out, std::uint32_t node_id, std::uint32_
     if (!card_is_supported(out, node_id)) {
         return 0;
     }
-    const auto print = zel_l2fib_hal_print[zel_l2fib_get_cardtype(node_id)].*slot;
+    const auto print = zel_l2fib_hal_print[supported_card].*slot;
     if (print == nullptr) {
         return 0;
     }

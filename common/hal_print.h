@@ -33,7 +33,7 @@ std::optional<std::uint32_t> summary_refusal(Output &out, const char *view, cons
 /// Empties zel_l2fib_hal_print and enters the views of the supported card family.
 void fill_hal_print();
 
-/// Prints the hardware's part of an object below the RP's: nothing when no view is entered for the card.
+/// Prints the hardware's part of an object below the RP's: nothing when no view is entered for the supported cards.
 std::uint32_t hand_over(Output &out, std::uint32_t level, const ViewRequest &request);
 
 /// The print function of the supported card family, on the output of a call that is under way.

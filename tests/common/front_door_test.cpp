@@ -48,6 +48,52 @@ TEST_F(FrontDoor, UnsupportedCardsShowNothingElse)
               Shown{"Unsupported card type: NONE"});
 }
 
+/// A router whose answers change: only the first so many name a supported card.
+static void support_card_for(int answers)
+{
+    test_platform.when_asked_for_card = [answers]() mutable { test_platform.card_type = answers-- > 0 ? 0x1e1000 : 0; };
+}
+
+TEST_F(FrontDoor, EachCheckAsksForTheCardOnce)
+{
+    const std::string unsupported = "\nUnsupported card type NONE: 0";
+    const std::string front_doors_report = "Unsupported card type: NONE";
+    Bytes ac(400);
+    ac[13] = 4; // deleted: the hardware shows a line, and nothing on it
+    const auto text_with = [&](int answers, auto call) {
+        support_card_for(answers);
+        Bytes bytes = ac;
+        return printed([&] { call(bytes); });
+    };
+    const auto ends_with = [](const std::string &text, const std::string &end) { return text.ends_with(end); };
+
+    const auto by_view = [](std::uint32_t view) {
+        return [view](Bytes &b) { zel_l2fib_print_internal(L2FIB_OBJTYPE_AC, 0, 1, view, b.data(), b.size()); };
+    };
+    EXPECT_EQ(text_with(0, by_view(1)), unsupported);
+    EXPECT_EQ(text_with(1, by_view(1)), unsupported); // the view's own check
+    EXPECT_TRUE(ends_with(text_with(2, by_view(1)), "SHG: None" + unsupported + "\n"));
+    EXPECT_TRUE(ends_with(text_with(3, by_view(1)), "SHG: None\n  \n"));
+    EXPECT_EQ(text_with(1, by_view(2)), unsupported);
+    EXPECT_TRUE(ends_with(text_with(2, by_view(2)), "is pwhe              : 0\n" + unsupported));
+    EXPECT_TRUE(ends_with(text_with(3, by_view(2)), "is pwhe              : 0\n"));
+    ac = {5, 3, 0, 9};
+    EXPECT_EQ(text_with(0, by_view(4)), unsupported);
+    EXPECT_EQ(text_with(1, by_view(4)), front_doors_report);
+    EXPECT_EQ(text_with(2, by_view(4)), "\n" + unsupported);
+    EXPECT_EQ(text_with(3, by_view(4)), "\n    ERROR: Invalid TLV size received!\n");
+
+    ac.resize(4536);
+    const auto state_summary = [](Bytes &b) { zel_l2fib_platform_summary_hw_print_internal(0, 0, b.data(), b.size()); };
+    const auto statistics = [](Bytes &b) {
+        zel_l2fib_platform_msg_counter_hw_print_internal(0, 0, b.data(), b.size());
+    };
+    EXPECT_TRUE(ends_with(text_with(0, state_summary), unsupported));
+    EXPECT_FALSE(ends_with(text_with(1, state_summary), unsupported));
+    EXPECT_TRUE(ends_with(text_with(0, statistics), unsupported));
+    EXPECT_FALSE(ends_with(text_with(1, statistics), unsupported));
+}
+
 TEST_F(FrontDoor, NullShowData)
 {
     EXPECT_EQ(shown([] { return zel_l2fib_print_internal(2, 0, 1, 1, nullptr, 0); }),
@@ -147,6 +193,17 @@ TEST_F(FrontDoor, SlotsAreTheRouters)
     };
     ASSERT_GT(rp_part.size(), 1U);
     EXPECT_EQ(mac(), (Shown{rp_part.substr(0, rp_part.size() - 1) + "own 14 2000\n", 5}));
+    zel_l2fib_hal_print[1].object_print = [](std::uint32_t /*level*/, std::uint32_t /*objtype*/, std::uint32_t node,
+                                             std::uint32_t direction, std::uint32_t view_flags, std::uint8_t *show_data,
+                                             std::uint64_t size) {
+        std::printf("before");
+        const std::uint32_t status = zel_l2fib_print_internal(5, node, direction, view_flags, show_data, size);
+        std::printf("after");
+        return status;
+    };
+    EXPECT_EQ(mac(), Shown{rp_part.substr(0, rp_part.size() - 1) + "beforezel_l2fib_print_internal_detail: "
+                                                                   "Wrong L2FIB objtype 5 action 100after\n"});
+    EXPECT_EQ(zel_l2fib_hal_print[1].object_print, zel_l2fib_trident_print_internal); // refilled by the call within
     print_internal(L2FIB_OBJTYPE_NHOP, L2FIB_VIEW_DETAIL, bytes);
     EXPECT_EQ(zel_l2fib_hal_print[1].object_print, zel_l2fib_trident_print_internal);
     EXPECT_EQ(zel_l2fib_hal_print[0].object_print, nullptr);
