@@ -46,7 +46,7 @@ static std::uint32_t print_egress(Output &out, std::uint32_t level, NpRange nps,
 static std::uint32_t print_plain_ac(Output &out, std::uint32_t level, std::uint32_t direction, const AcShowData &ac,
                                     ShowData block, const char *handler)
 {
-    const NpRange nps = np_range(ac.context.requested_np, ac.np_count.from_wire());
+    const NpRange nps = np_range(ac.context.requested_np, static_cast<std::uint8_t>(ac.np_count.from_wire()));
     ShowDataCursor cursor{block};
     cursor.take<PlainAcBlock>();
     switch (direction) {

@@ -267,7 +267,7 @@ TEST_F(PlainAc, NpsAndTheEntriesThatThereAre)
         bool complete;
     } cases[] = {
         {all_nps, 2, 2, 2, true}, {all_nps, 2, 1, 1, false}, {all_nps, 0, 0, 0, true},
-        {7, 2, 1, 1, true},       {9, 0, 0, 0, false},       {all_nps, 0x0103, 3, 3, false},
+        {7, 2, 1, 1, true},       {9, 0, 0, 0, false},       {all_nps, 0x0103, 5, 3, true},
     };
     for (const std::uint32_t direction : {1U, 2U}) {
         for (const auto &c : cases) {
