@@ -25,10 +25,11 @@ Text timestamp_text(std::uint64_t stamp)
 
     // The router counts wall-clock seconds in 32 bits.
     const std::time_t wall = static_cast<std::uint32_t>(wall_now - monotonic_seconds + stamp / ns_per_second);
-    const std::tm *local = std::localtime(&wall);
+    tzset(); // the zone may have changed since the last call, which localtime_r alone does not notice
+    std::tm local{};
     Text time;
-    if (local != nullptr) {
-        time.size = std::strftime(time.chars, Text::capacity, "%m/%d/%Y %H:%M:%S", local);
+    if (localtime_r(&wall, &local) != nullptr) {
+        time.size = std::strftime(time.chars, Text::capacity, "%m/%d/%Y %H:%M:%S", &local);
     }
     return time.size != 0 ? time : Text{"unknown_time"};
 }
