@@ -4,7 +4,6 @@
 #include "common/stored.h"
 #include "hw/uidb_entry.h"
 
-#include <cstring>
 #include <initializer_list>
 #include <vector>
 
@@ -70,21 +69,16 @@ public:
     template <class Record>
     ShowDataBuilder &add(const Record &record)
     {
-        const std::size_t offset = bytes_.size();
-        bytes_.resize(offset + sizeof record);
-        std::memcpy(bytes_.data() + offset, &record, sizeof record);
-        return *this;
+        return add_bytes(&record, sizeof record);
     }
 
-    ShowDataBuilder &add_zeros(std::size_t size)
-    {
-        bytes_.resize(bytes_.size() + size);
-        return *this;
-    }
+    ShowDataBuilder &add_zeros(std::size_t size);
 
     [[nodiscard]] const std::vector<std::uint8_t> &bytes() const { return bytes_; }
 
 private:
+    ShowDataBuilder &add_bytes(const void *bytes, std::size_t size);
+
     std::vector<std::uint8_t> bytes_;
 };
 

@@ -205,8 +205,8 @@ static std::string nonzero_labels(const std::string &text)
         const std::size_t colon = cell.find(':');
         if (colon != std::string::npos && cell.find_first_not_of(" 0x", colon + 1) != std::string::npos) {
             const std::size_t first = cell.find_first_not_of(' ');
-            labels +=
-                (labels.empty() ? "" : ", ") + cell.substr(first, cell.find_last_not_of(' ', colon - 1) + 1 - first);
+            labels += labels.empty() ? "" : ", ";
+            labels += cell.substr(first, cell.find_last_not_of(' ', colon - 1) + 1 - first);
         }
     }
     return labels;
@@ -222,7 +222,8 @@ static std::string flag_items(const std::string &text)
     std::istringstream lines(text.substr(text.find(label) + label.size()));
     std::string items;
     for (std::string line; std::getline(lines, line);) {
-        items += (items.empty() ? "" : " ") + line.substr(std::min(line.find_first_not_of(' '), line.size()));
+        items += items.empty() ? "" : " ";
+        items += line.substr(std::min(line.find_first_not_of(' '), line.size()));
         if (!line.ends_with(',')) {
             break;
         }

@@ -4,6 +4,7 @@
 #include "tests/support/printed.h"
 #include "zel_l2fib/show.h"
 
+#include <algorithm>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <unistd.h>

@@ -21,12 +21,12 @@ TEST(List, Wrapping)
         std::vector<std::string> items;
         std::string printed;
     } cases[] = {
-        {1, nullptr, "", {x(68), "next"}, "\n  " + x(68) + ", next"},    // up to column 70
-        {1, nullptr, "", {x(69), "next"}, "\n  " + x(69) + ",\n  next"}, // from 71 on
-        {2, "Flags", "", {x(60), "2", "3"}, "\n    Flags: " + x(60) + ",\n           2, 3"},
-        {36, nullptr, "", {"first"}, "\n" + blanks + ",\n" + blanks + "first"},
+        {1, nullptr, "", {x(68), "next"}, std::string("\n  ") + x(68) + ", next"},    // up to column 70
+        {1, nullptr, "", {x(69), "next"}, std::string("\n  ") + x(69) + ",\n  next"}, // from 71 on
+        {2, "Flags", "", {x(60), "2", "3"}, std::string("\n    Flags: ") + x(60) + ",\n           2, 3"},
+        {36, nullptr, "", {"first"}, std::string("\n") + blanks + ",\n" + blanks + "first"},
         {0, nullptr, "word ", {"first", "2"}, "\nword first, 2"},
-        {0, nullptr, x(71), {"first"}, "\n" + x(71) + ",\nfirst"},
+        {0, nullptr, x(71), {"first"}, std::string("\n") + x(71) + ",\nfirst"},
     };
     for (const auto &c : cases) {
         EXPECT_EQ(printed([&] {

@@ -148,9 +148,10 @@ TEST_F(BridgeHandler, ShowDataThatEndsEarly)
              {930, 0}, {950, 0}, {1146, 2}, {1150, 2}, {1466, 2}, {1610, 2}, {1706, 2}}) {
         for (; size < end; ++size) {
             const Shown result = show(1, {whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)});
-            const std::string report = "\n" + std::string(static_cast<std::size_t>(blanks), ' ') + "data_size is " +
-                                       std::to_string(size) + ", expecting at least " + std::to_string(end) + failure +
-                                       "0x46258800\n";
+            std::string report(1, '\n');
+            report.append(static_cast<std::size_t>(blanks), ' ');
+            report += "data_size is " + std::to_string(size) + ", expecting at least " + std::to_string(end) + failure +
+                      "0x46258800\n";
             ASSERT_EQ(result.status, L2FIB_SHOW_ERR_DATA);
             ASSERT_TRUE(result.text.ends_with(report)) << result.text;
         }
