@@ -25,6 +25,10 @@ struct Call {
     U32 ifhandle_status;
     U8 ifhandle_is_virtual;
 
+    // Of the target that looks at the amount of text; the others have no use for them.
+    U16 period;   ///< how many bytes at the end of the show data are repeated
+    U8 magnitude; ///< of the size up to which they are
+
     [[nodiscard]] bool has(Choice choice) const { return (choices & choice) != 0; }
 };
 

@@ -36,6 +36,8 @@ static constexpr Number directions[] = {0, L2FIB_INGRESS, L2FIB_INGRESS, L2FIB_E
 static constexpr Number view_flags[] = {0, 1, 1, 2, 2, 4, 7, 8};
 static constexpr Number levels[] = {0, 1, 10, 34, 35, 36, 63, 0xfffffffe, 0xffffffff};
 static constexpr Number functions[] = {0, 1, 2, 3};
+static constexpr Number periods[] = {0, 1, 3, 6, 7, sizeof(IgpPath), 2 * sizeof(BridgeMemberRecord), sizeof(XidEntry)};
+static constexpr Number magnitudes[] = {0, 6, 8, 10, 12};
 static constexpr Number card_types[] = {0x1e1000, 0x1e1000, 0x1e1001, 0x1e1002, 0x1e1003,
                                         0x1e1004, 0x1e1005, 0,        0x1e0fff, 0xffffffff};
 static constexpr Number clock_values[] = {0, 1, 1'000'000'000, 0xffffffff, 0x7fffffffffffffff, 0xffffffffffffffff};
@@ -91,6 +93,8 @@ static Call add_call(Shape &shape)
     shape.host<U64>(at + offsetof(Call, nanoseconds), clock_values);
     shape.host<U32>(at + offsetof(Call, ifhandle_status), answers);
     shape.host<U8>(at + offsetof(Call, ifhandle_is_virtual), answers);
+    shape.host<U16>(at + offsetof(Call, period), periods);
+    shape.host<U8>(at + offsetof(Call, magnitude), magnitudes);
     return call;
 }
 

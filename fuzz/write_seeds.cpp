@@ -95,6 +95,10 @@ static void write_seeds(SeedWriter &seeds, const SampleCapture &sample)
         seeds.write("summaries", name, call, show_data);
     }
     seeds.write("front-door", name, call, show_data);
+    Call long_call = call;
+    set_as_stored(long_call.period, 7);
+    set_as_stored(long_call.function, summary_function(sample.object).value_or(resources));
+    seeds.write("text-size", name, long_call, show_data);
     set_as_stored(call.function, by_view_flags);
     seeds.write("hardware", name, call, show_data);
     if (call.view_flags == L2FIB_VIEW_INCONSISTENT) {

@@ -14,7 +14,12 @@
  *     a view does not know and an empty slot of the print table are no failures: a line may be printed and the
  *     status is 0.
  *  6. Memory that a view needs for its work is released before it returns. No locks are taken: call from one
- *     thread at a time.
+ *     thread at a time, and not from a signal handler.
+ *  7. A call prints at most 12 characters for each byte of show data and 4 MiB more, whatever the show data holds.
+ *     Where a function takes an indent level, its blanks come on top.
+ *  8. What the library calls, the slots of zel_l2fib_hal_print and the platform operations, has to return to it: an
+ *     exception or a longjmp past the library loses text and memory of the call. A slot may print and may call the
+ *     library; a platform operation may do neither.
  */
 #ifndef ZEL_L2FIB_SHOW_H
 #define ZEL_L2FIB_SHOW_H
