@@ -2,7 +2,6 @@
 #pragma once
 
 #include "common/output.h"
-#include "common/show_data.h"
 #include "zel_l2fib/show.h"
 
 namespace l2fib
@@ -15,21 +14,18 @@ const char *status_text(std::uint32_t status);
 std::uint32_t short_data(Output &out, std::uint32_t level, std::uint64_t size, std::uint64_t needed);
 
 /// A hardware handler that was called without show data.
-std::uint32_t null_arguments(Output &out, std::uint32_t level, const char *function);
-
-/// A view of a hardware entry that was called without the entry.
-std::uint32_t null_entry(Output &out, std::uint32_t level, const char *function);
+std::uint32_t null_arguments(Output &out, std::uint32_t level, const Literal &function);
 
 /// An RP view that was called without show data.
-std::uint32_t null_show_data(Output &out, const char *function, std::uint32_t objtype);
+std::uint32_t null_show_data(Output &out, const Literal &function, std::uint32_t objtype);
 
 /// A summary that was called without show data.
-std::uint32_t null_summary(Output &out, const char *function);
+std::uint32_t null_summary(Output &out, const Literal &function);
 
 /// A summary whose show data ends early.
-std::uint32_t wrong_summary_size(Output &out, const char *function, std::uint64_t size);
+std::uint32_t wrong_summary_size(Output &out, const Literal &function, std::uint64_t size);
 
 /// An object that a view does not show. Opens no line, and is no failure: the status is 0.
-std::uint32_t wrong_objtype(Output &out, const char *function, std::uint32_t objtype);
+std::uint32_t wrong_objtype(Output &out, const Literal &function, std::uint32_t objtype);
 
 } // namespace l2fib

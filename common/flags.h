@@ -1,8 +1,7 @@
 // Tables of flags: which bit prints which text, in print order.
 #pragma once
 
-#include "common/format.h"
-#include "common/stored.h"
+#include "common/literal.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -14,7 +13,7 @@ namespace l2fib
 struct Flag {
     unsigned number; ///< as the word's set_flags() have it, or the bit of a plain number
     Literal text;
-    Literal text_when_clear = nullptr; ///< of a bit that says which of two things holds: one of them is printed
+    Literal text_when_clear = nullptr; ///< printed instead when the flag is clear
 };
 
 constexpr std::uint32_t all_flags = 0xffffffff;

@@ -119,10 +119,10 @@ int print_ip(const uint32_t *address)
 int print_words(const void *words, int length)
 {
     l2fib::Output out;
-    const auto *word = static_cast<const l2fib::U32 *>(words);
+    const auto *word = static_cast<const l2fib::BigU32 *>(words);
     int printed = out.text("[0x");
     for (std::int64_t left = length; left > 0; left -= 4, ++word) {
-        printed += out.text("%08x", word->from_wire());
+        printed += out.text("%08x", *word);
         if (left > 4) {
             printed += out.text(" ");
         }

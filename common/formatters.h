@@ -1,8 +1,8 @@
 // Values whose text is more than a number: times, addresses, groups.
 #pragma once
 
-#include "common/format.h"
-#include "common/stored.h"
+#include "common/number.h"
+#include "common/text.h"
 
 #include <cstdint>
 

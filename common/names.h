@@ -1,7 +1,7 @@
 // Tables of names, indexed by the number that the show data carries.
 #pragma once
 
-#include "common/format.h"
+#include "common/literal.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "common/number_text.h"
 
-#include "common/short_text.h"
+#include "common/characters.h"
 
 #include <array>
 #include <bit>

@@ -1,8 +1,8 @@
 // Numbers as text, where there is room for it.
 #pragma once
 
+#include "common/characters.h"
 #include "common/format.h"
-#include "common/short_text.h"
 #include "common/three_digits.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 // The printed names of the object types.
 #pragma once
 
-#include "common/format.h"
+#include "common/literal.h"
 
 #include <cstdint>
 

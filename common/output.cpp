@@ -28,7 +28,7 @@ void Output::put_long_string(std::string_view string)
 {
     if (string.size() <= buffer_size) {
         reserve(string.size());
-        next_ = copy_text(next_, string.data(), string.size());
+        next_ = copy(next_, string.data(), string.size());
     } else {
         flush();
         std::fwrite(string.data(), 1, string.size(), stream_);

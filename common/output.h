@@ -1,9 +1,9 @@
 // The one way out: all text of the library leaves through an Output.
 #pragma once
 
+#include "common/characters.h"
 #include "common/format.h"
 #include "common/number_text.h"
-#include "common/short_text.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -1,6 +1,8 @@
 // Checked access to show data. A record is reached through here or not at all.
 #pragma once
 
+#include "common/record.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
@@ -10,8 +12,11 @@
 namespace l2fib
 {
 
-template <class Record>
-concept ShowDataRecord = alignof(Record) == 1 && std::is_trivially_copyable_v<Record>;
+/// What may be taken out of show data: a type that says of each of its numbers how it is read. A record whose numbers
+/// are converted first comes as a Received one.
+template <class Piece>
+concept ShowDataPiece =
+    alignof(Piece) == 1 && std::is_trivially_copyable_v<Piece> &&record_fields::IsReadableAsReceived<std::remove_const_t<Piece>>::value;
 
 /// The caller's buffer, or the part of it that begins at some offset.
 class ShowData
@@ -29,22 +34,22 @@ public:
         return offset <= size_ && bytes <= size_ - offset;
     }
 
-    /// The record at an offset, or null unless all of it lies inside the show data.
-    template <ShowDataRecord Record>
-    [[nodiscard]] Record *at(std::uint64_t offset) const
+    /// The piece at an offset, or null unless all of it lies inside the show data.
+    template <ShowDataPiece Piece>
+    [[nodiscard]] Piece *at(std::uint64_t offset) const
     {
-        return !is_null() && holds(offset, sizeof(Record)) ? &promised<Record>(begin_ + offset) : nullptr;
+        return !is_null() && holds(offset, sizeof(Piece)) ? &unchecked<Piece>(begin_ + offset) : nullptr;
     }
 
-    /// The records from an offset on, none unless all of them lie inside the show data.
-    template <ShowDataRecord Record>
-    [[nodiscard]] std::span<Record> array_at(std::uint64_t offset, std::uint32_t count) const
+    /// The pieces from an offset on, none unless all of them lie inside the show data.
+    template <ShowDataPiece Piece>
+    [[nodiscard]] std::span<Piece> array_at(std::uint64_t offset, std::uint32_t count) const
     {
-        auto *first = holds(offset, std::uint64_t{count} * sizeof(Record)) ? at<Record>(offset) : nullptr;
-        return first == nullptr ? std::span<Record>{} : std::span<Record>{first, count};
+        auto *first = holds(offset, std::uint64_t{count} * sizeof(Piece)) ? at<Piece>(offset) : nullptr;
+        return first == nullptr ? std::span<Piece>{} : std::span<Piece>{first, count};
     }
 
-    /// What lies behind an offset; null show data where nothing does.
+    /// The show data from an offset on; null show data where it does not reach that far.
     [[nodiscard]] ShowData from(std::uint64_t offset) const
     {
         return !is_null() && holds(offset, 0) ? ShowData{begin_ + offset, size_ - offset} : ShowData{};
@@ -62,19 +67,19 @@ public:
                    : nullptr;
     }
 
-    /// A record that a caller of the library vouches for, of a buffer whose size nobody compares.
-    template <ShowDataRecord Record, class Byte>
-    [[nodiscard]] static Record &promised(Byte *bytes, std::uint64_t offset = 0)
+    /// A piece that a caller of the library vouches for, in a buffer whose size nobody compares.
+    template <ShowDataPiece Piece, class Byte>
+    [[nodiscard]] static Piece &unchecked(Byte *bytes, std::uint64_t offset = 0)
     {
-        return *reinterpret_cast<Record *>(bytes + offset);
+        return *reinterpret_cast<Piece *>(bytes + offset);
     }
 
-    /// Records that a caller of the library vouches for.
-    template <ShowDataRecord Record>
-    [[nodiscard]] static std::span<Record> promised_array(std::uint8_t *bytes, std::uint64_t offset,
+    /// Pieces that a caller of the library vouches for.
+    template <ShowDataPiece Piece>
+    [[nodiscard]] static std::span<Piece> unchecked_array(std::uint8_t *bytes, std::uint64_t offset,
                                                           std::uint32_t count)
     {
-        return {&promised<Record>(bytes, offset), count};
+        return {&unchecked<Piece>(bytes, offset), count};
     }
 
 private:

@@ -1,4 +1,4 @@
-// Show data whose pieces follow each other, some of them present and some not.
+// Show data whose records follow each other, some of them present and some not.
 #pragma once
 
 #include "common/show_data.h"
@@ -9,45 +9,44 @@
 namespace l2fib
 {
 
-/// Hands out one piece after the other. A piece that the show data does not hold whole is not handed out.
+/// Hands out one record after the other. What the show data does not hold whole is not handed out.
 class ShowDataCursor
 {
 public:
     explicit ShowDataCursor(ShowData data) : data_(data) {}
 
-    /// `count` records as one piece.
-    template <ShowDataRecord Record>
-    std::span<Record> take(std::uint32_t count)
+    /// `count` of them, or none.
+    template <ShowDataPiece Piece>
+    std::span<Piece> take(std::uint32_t count)
     {
-        return claim(count * std::uint64_t{sizeof(Record)}) ? data_.array_at<Record>(begin_, count)
-                                                            : std::span<Record>{};
+        return claim(count * std::uint64_t{sizeof(Piece)}) ? data_.array_at<Piece>(begin_, count) : std::span<Piece>{};
     }
 
-    template <ShowDataRecord Record>
-    Record *take()
+    template <ShowDataPiece Piece>
+    Piece *take()
     {
-        return take<Record>(1).data();
+        return take<Piece>(1).data();
     }
 
-    /// Records of several kinds as one piece, one kind behind the other: as many of each as `counts` says.
-    template <ShowDataRecord... Records>
-    std::tuple<std::span<Records>...> take_together(std::convertible_to<std::uint32_t> auto... counts)
+    /// Pieces of several kinds as one piece, one kind behind the other: as many of each as `counts` says.
+    template <ShowDataPiece... Pieces>
+    std::tuple<std::span<Pieces>...> take_together(std::convertible_to<std::uint32_t> auto... counts)
     {
-        if (!claim(((std::uint64_t{sizeof(Records)} * static_cast<std::uint32_t>(counts)) + ...))) {
+        if (!claim(((std::uint64_t{sizeof(Pieces)} * static_cast<std::uint32_t>(counts)) + ...))) {
             return {};
         }
         std::uint64_t offset = begin_;
-        return {next<Records>(offset, static_cast<std::uint32_t>(counts))...};
+        return {next<Pieces>(offset, static_cast<std::uint32_t>(counts))...};
     }
 
-    /// Where the last piece ends that was asked for, from the first byte of the show data.
+    /// Where the end of the last one is that was asked for, from the first byte of the show data.
     [[nodiscard]] std::uint64_t end() const { return end_; }
 
 private:
-    template <class Record>
-    std::span<Record> next(std::uint64_t &offset, std::uint32_t count) const
+    template <class Piece>
+    std::span<Piece> next(std::uint64_t &offset, std::uint32_t count) const
     {
-        const auto records = data_.array_at<Record>(offset, count);
+        const auto records = data_.array_at<Piece>(offset, count);
         offset += records.size_bytes();
         return records;
     }
@@ -63,7 +62,7 @@ private:
 
     ShowData data_;
     std::uint64_t next_ = 0;
-    std::uint64_t begin_ = 0; // of the last piece asked for
+    std::uint64_t begin_ = 0; // of the last one asked for
     std::uint64_t end_ = 0;
 };
 

@@ -1,7 +1,6 @@
-// The printer of inconsistency reports: streams of type-length-value records that the producer has composed.
-#include "common/hal_print.h"
+#include "common/tlv.h"
+
 #include "common/names.h"
-#include "common/show_data.h"
 #include "zel_l2fib/show.h"
 
 namespace l2fib
@@ -12,6 +11,8 @@ struct TlvHeader {
     U8 type;
     U8 length; // of the whole record
     U8 verdict;
+
+    using Fields = l2fib::Fields<&TlvHeader::type, &TlvHeader::length, &TlvHeader::verdict>;
 };
 
 enum TlvType : std::uint8_t {
@@ -94,14 +95,14 @@ static bool print_record(Report &report, const TlvHeader &header, ShowData recor
     switch (header.type.value()) {
     case tlv_number:
     case tlv_hex_word: {
-        const auto *number = record.at<U32>(sizeof header);
+        const auto *number = record.at<BigU32>(sizeof header);
         if (number == nullptr) {
             return false;
         }
         if (header.type == tlv_number) {
-            report.value(header.verdict, "%u ", number->from_wire());
+            report.value(header.verdict, "%u ", *number);
         } else {
-            report.value(header.verdict, "%08x ", number->from_wire());
+            report.value(header.verdict, "%08x ", *number);
         }
         return true;
     }
@@ -144,7 +145,7 @@ static std::uint32_t print_stream(Report &report, ShowData &rest)
     return 0;
 }
 
-std::uint32_t zel_l2fib_print_tlv(Output &out, std::uint32_t level, ShowData &rest)
+std::uint32_t print_report(Output &out, std::uint32_t level, ShowData &rest)
 {
     Report report{out, level};
     return print_stream(report, rest);
@@ -160,7 +161,7 @@ uint32_t zel_l2fib_print_tlv(uint32_t level, uint8_t **cursor, uint64_t *remaini
     }
     Output out;
     ShowData rest{*cursor, *remaining};
-    const std::uint32_t status = l2fib::zel_l2fib_print_tlv(out, level, rest);
+    const std::uint32_t status = print_report(out, level, rest);
     *cursor = rest.bytes();
     *remaining = rest.size();
     return status;

@@ -1,6 +1,8 @@
 // Working copies of records, where the show data itself must stay as it was received.
 #pragma once
 
+#include "common/record.h"
+
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -9,7 +11,8 @@
 namespace l2fib
 {
 
-// Both by libc. What compilers make of a fill or an assignment of a few KiB takes longer than to print the record.
+// Both by libc: the string instructions that compilers make of a fill or an assignment of a few KiB took a sixth of the
+// view of a VPLS PW.
 
 /// Memory for the caller to free, or null. Every byte of it is `fill`.
 void *obtain_bytes(std::size_t size, std::uint8_t fill);
@@ -24,7 +27,7 @@ class WorkingCopies
 
 public:
     WorkingCopies(std::size_t count, std::uint8_t fill)
-        : records_(static_cast<Record *>(obtain_bytes(count * sizeof(Record), fill)))
+        : records_(static_cast<Received<Record> *>(obtain_bytes(count * sizeof(Record), fill)))
     {
     }
     ~WorkingCopies() { std::free(records_); }
@@ -35,26 +38,34 @@ public:
     [[nodiscard]] bool obtained() const { return records_ != nullptr; }
 
     /// Makes one of them a received record, in host order.
-    void fill_in(std::size_t index, const Record &received)
+    void fill_in(std::size_t index, const Received<Record> &received)
     {
         copy_bytes(&records_[index], &received, sizeof received);
         records_[index].to_host();
     }
 
-    const Record &operator[](std::size_t index) const { return records_[index]; }
+    const Record &operator[](std::size_t index) const { return records_[index].converted_before(); }
 
 private:
-    Record *records_;
+    Received<Record> *records_;
 };
 
-/// A record in host order, apart from the show data that it lies in.
+/// A record in host order, apart from the show data, which stays as received.
 template <class Record>
-Record private_copy(const Record &received)
+class HostCopy
 {
-    Record copy;
-    copy_bytes(&copy, &received, sizeof copy);
-    copy.to_host();
-    return copy;
-}
+public:
+    explicit HostCopy(const Received<Record> &received)
+    {
+        copy_bytes(&copy_, &received, sizeof received);
+        copy_.to_host();
+    }
+
+    [[nodiscard]] const Record &record() const { return copy_.converted_before(); }
+    const Record *operator->() const { return &record(); }
+
+private:
+    Received<Record> copy_;
+};
 
 } // namespace l2fib

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/output.h"
-#include "common/stored.h"
+#include "common/record.h"
 
 namespace l2fib
 {
@@ -13,6 +13,9 @@ struct BportKey {
     U8 unread_3;
     S32 bridge_id; // 4
     S32 port_id;   // 8
+
+    using R = BportKey;
+    using Fields = l2fib::Fields<&R::unread_0, &R::is_virtual, &R::unread_3, &R::bridge_id, &R::port_id>;
 };
 static_assert(sizeof(BportKey) == 12);
 
@@ -21,16 +24,21 @@ struct BportEntry {
     HardwareFlags<one_bit(10)> flags; // 4
     U32 xid;                          // 8
     Bytes<36> unread_12;
+
+    using R = BportEntry;
+    using Fields = l2fib::Fields<&R::unread_0, &R::flags, &R::xid, &R::unread_12>;
 };
 static_assert(sizeof(BportEntry) == 48);
 
-/// A bridge port's key and, behind it, its entry.
+/// A bridge port's key and, after it, its entry.
 struct Bport {
     BportKey key;
     BportEntry entry;
+
+    using R = Bport;
+    using Fields = l2fib::Fields<&R::key, &R::entry>;
 };
 
-/// Prints a bridge port; nothing for a null entry.
-void zel_l2fib_print_bport_entry(Output &out, std::uint32_t level, BportKey *key, BportEntry *entry);
+void print_bport(Output &out, std::uint32_t level, const Bport &bport);
 
 } // namespace l2fib

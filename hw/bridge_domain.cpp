@@ -36,13 +36,6 @@ static constexpr FlagTable bridge_domain_flags{{
     {3, "EVPN Flow Label"},
 }};
 
-void BridgeDomainRecord::to_host()
-{
-    l2fib::to_host(flags, learn_key, members, fgid, learn_counter, mgid_index, unread_32, single_shg0_xid, half_age,
-                   unread_44, pbb_core_bridge_domain, isid, bvi_tcam_index, evpn_counter, vni_id, unread_68,
-                   head_end_ptree_internal_label);
-}
-
 static std::uint32_t upper_24_bits(std::uint32_t word)
 {
     return word >> 8;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/output.h"
-#include "common/stored.h"
+#include "common/record.h"
 
 #include <cstddef>
 
@@ -41,7 +41,11 @@ struct BridgeDomainRecord {
     U32 head_end_ptree_internal_label; // 139  unaligned
     U8 unread_143;
 
-    void to_host();
+    using R = BridgeDomainRecord;
+    using Fields = l2fib::Fields<&R::flags, &R::learn_key, &R::members, &R::fgid, &R::learn_counter, &R::mgid_index,
+                                 &R::unread_32, &R::single_shg0_xid, &R::half_age, &R::unread_44,
+                                 &R::pbb_core_bridge_domain, &R::isid, &R::bvi_tcam_index, &R::evpn_counter, &R::vni_id,
+                                 &R::unread_68, &R::unread_72, &R::head_end_ptree_internal_label, &R::unread_143>;
 };
 static_assert(sizeof(BridgeDomainRecord) == 144 && offsetof(BridgeDomainRecord, head_end_ptree_internal_label) == 139);
 

@@ -41,24 +41,23 @@ static void print_copy(Output &out, std::uint32_t level, int heading_column, con
     }
 }
 
-void print_bridge_member(Output &out, std::uint32_t level, std::uint32_t member, std::span<BridgeMemberRecord> copies,
-                         std::uint32_t irl_shg0_bound_members)
+void print_bridge_member(Output &out, std::uint32_t level, std::uint32_t member,
+                         std::span<Received<BridgeMemberRecord>> copies, std::uint32_t irl_shg0_bound_members)
 {
     for (std::uint32_t copy = 0; copy < copies.size(); ++copy) {
-        copies[copy].to_host();
         const int heading_column = out.line(level);
         out.text("Bridge Member %d, copy %d ", member, copy);
-        print_copy(out, level + 1, heading_column, copies[copy], irl_shg0_bound_members);
+        print_copy(out, level + 1, heading_column, copies[copy].to_host(), irl_shg0_bound_members);
     }
 }
 
-void print_pw_bvi_member(Output &out, std::uint32_t level, std::uint32_t member, std::span<BridgeMemberRecord> copies)
+void print_pw_bvi_member(Output &out, std::uint32_t level, std::uint32_t member,
+                         std::span<Received<BridgeMemberRecord>> copies)
 {
     for (std::uint32_t copy = 0; copy < copies.size(); ++copy) {
-        copies[copy].to_host();
         out.line(level, "PW-BVI Bridge Member %d, copy %d ", member, copy);
         List line{out, level + 1};
-        line.item("XID: 0x%08x", copies[copy].xid);
+        line.item("XID: 0x%08x", copies[copy].to_host().xid);
     }
 }
 

@@ -1,8 +1,8 @@
-// A member of a bridge domain as one NP floods to it. Members stand in the show data in two copies.
+// A member of a bridge domain as one NP floods to it. Members are in the show data in two copies.
 #pragma once
 
 #include "common/output.h"
-#include "common/stored.h"
+#include "common/record.h"
 
 #include <cstddef>
 #include <span>
@@ -25,17 +25,20 @@ struct BridgeMemberRecord {
     U8 r_ldi_hash;  // 46
     U8 unread_47;
 
-    void to_host() { l2fib::to_host(flags, xid, unread_12, label, ldi); }
+    using R = BridgeMemberRecord;
+    using Fields = l2fib::Fields<&R::unread_0, &R::flags, &R::xid, &R::unread_12, &R::label, &R::unread_40, &R::ldi,
+                                 &R::lag_hash, &R::nr_ldi_hash, &R::r_ldi_hash, &R::unread_47>;
 };
 static_assert(sizeof(BridgeMemberRecord) == 48 && offsetof(BridgeMemberRecord, ldi) == 42);
 
 constexpr std::uint32_t bridge_member_copies = 2;
 
 /// Prints both copies of a member; `irl_shg0_bound_members` is the NP's.
-void print_bridge_member(Output &out, std::uint32_t level, std::uint32_t member, std::span<BridgeMemberRecord> copies,
-                         std::uint32_t irl_shg0_bound_members);
+void print_bridge_member(Output &out, std::uint32_t level, std::uint32_t member,
+                         std::span<Received<BridgeMemberRecord>> copies, std::uint32_t irl_shg0_bound_members);
 
-/// Prints both copies of a member that is a pseudowire behind a BVI.
-void print_pw_bvi_member(Output &out, std::uint32_t level, std::uint32_t member, std::span<BridgeMemberRecord> copies);
+/// Prints both copies of a member that is a pseudowire over a BVI.
+void print_pw_bvi_member(Output &out, std::uint32_t level, std::uint32_t member,
+                         std::span<Received<BridgeMemberRecord>> copies);
 
 } // namespace l2fib

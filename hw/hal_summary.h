@@ -1,16 +1,19 @@
 // What the hardware abstraction layer (HAL) keeps in shared memory.
 #pragma once
 
-#include "common/stored.h"
+#include "common/record.h"
 
 namespace l2fib
 {
 
 /// Follows the NP count, the high-water mark of each NP (U32) and the resource status of each NP (U16).
 struct HalSummaryTotals {
-    U16 flags;
-    U32 load_balance_type;         // 2
-    U32 negative_mac_counter_hits; // 6
+    BigU16 flags;
+    BigU32 load_balance_type;         // 2
+    BigU32 negative_mac_counter_hits; // 6
+
+    using R = HalSummaryTotals;
+    using Fields = l2fib::Fields<&R::flags, &R::load_balance_type, &R::negative_mac_counter_hits>;
 };
 static_assert(sizeof(HalSummaryTotals) == 10);
 

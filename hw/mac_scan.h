@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/output.h"
-#include "common/stored.h"
+#include "common/record.h"
 
 #include <cstddef>
 
@@ -21,10 +21,9 @@ struct MacScan {
     U32 response_errors;            // 192
     U32 responses_to_freed;         // 196  to requests that were given up
 
-    void to_host()
-    {
-        l2fib::to_host(events, states, sent, sent_errors, responses, response_errors, responses_to_freed);
-    }
+    using R = MacScan;
+    using Fields = l2fib::Fields<&R::events, &R::states, &R::sent, &R::sent_errors, &R::responses, &R::response_errors,
+                                 &R::responses_to_freed>;
 };
 static_assert(sizeof(MacScan) == 200 && offsetof(MacScan, responses) == 140);
 

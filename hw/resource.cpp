@@ -4,12 +4,17 @@
 #include "common/flags.h"
 #include "common/formatters.h"
 #include "common/working_copies.h"
+#include "hw/objects.h"
+#include "hw/view_names.h"
+#include "zel_l2fib/show.h"
 
 #include <algorithm>
 #include <iterator>
 
 namespace l2fib
 {
+
+constexpr Literal resource_view = "zel_l2fib_trident_print_resource";
 
 static constexpr Literal operation_names[] = {"Set", "Modify", "Clear", "Get", "Get Info", "Delete All"};
 static_assert(std::size(operation_names) == resource_operations);
@@ -144,12 +149,27 @@ static void print_time_totals(Output &out, const ColumnTotal (&totals)[resource_
     out.text("\n");
 }
 
+/// What an NP uses of each type, in host order.
+class UsesOfNp
+{
+public:
+    UsesOfNp(const ResourceData &received, std::uint32_t np)
+    {
+        for (unsigned type = 0; type < resource_types; ++type) {
+            copies_[type] = received.uses[type][np];
+            copies_[type].to_host();
+        }
+    }
+
+    const ResourceUse &operator[](unsigned type) const { return copies_[type].converted_before(); }
+
+private:
+    Received<ResourceUse> copies_[resource_types];
+};
+
 static void print_np(Output &out, std::uint32_t np, const ResourceData &received, std::uint32_t total_macs)
 {
-    ResourceUse uses[resource_types];
-    for (unsigned type = 0; type < resource_types; ++type) {
-        uses[type] = private_copy(received.types[type].nps[np]);
-    }
+    const UsesOfNp uses(received, np);
     ColumnTotal totals[resource_operations];
     out.text("\n"
              "                     Hardware Resource Summary - NP%d\n",
@@ -176,38 +196,53 @@ static std::uint64_t size_to_judge(std::uint64_t length, std::uint64_t expected,
     return length == expected ? std::min(length, data.size()) : length;
 }
 
-std::uint32_t zel_l2fib_trident_print_resource(Output &out, std::uint32_t level, ShowData data, std::uint64_t length)
+/// `length` is what the producer says of the size of the resource data.
+static std::uint32_t print_resource_data(Output &out, std::uint32_t level, ShowData data, std::uint64_t length)
 {
-    if (data.is_null()) {
-        out.line(level);
-        return null_summary(out, __func__);
-    }
-    const auto *received_np_count = data.at<const U32>(0);
-    const std::uint32_t np_count = received_np_count == nullptr ? 1 : received_np_count->from_wire();
+    const auto *received_np_count = data.at<const BigU32>(0);
+    const std::uint32_t np_count = received_np_count == nullptr ? 1 : received_np_count->value();
     if (!np_count_is_valid(np_count)) {
         out.line(level);
         print_invalid_np_count(out, np_count);
         return 0;
     }
-    const std::uint64_t expected = sizeof(ResourceData) + sizeof(U32) * np_count;
+    const std::uint64_t expected = sizeof(ResourceData) + sizeof(BigU32) * np_count;
     if (const std::uint64_t size = size_to_judge(length, expected, data); size != expected) {
-        out.line(level, "%s: invalid data size: %d, expecting %d\n", __func__, // both without the NP count
-                 static_cast<std::uint32_t>(size - sizeof(U32)), static_cast<std::uint32_t>(expected - sizeof(U32)));
+        out.line(level, "%s: invalid data size: %d, expecting %d\n", resource_view, // both without the NP count
+                 static_cast<std::uint32_t>(size - sizeof(BigU32)),
+                 static_cast<std::uint32_t>(expected - sizeof(BigU32)));
         return L2FIB_SHOW_ERR_DATA;
     }
     const auto *received = data.at<ResourceData>(0);
-    const auto total_macs = data.array_at<const U32>(sizeof(ResourceData), np_count);
+    const auto total_macs = data.array_at<const BigU32>(sizeof(ResourceData), np_count);
     for (std::uint32_t np = 0; np < np_count; ++np) {
-        print_np(out, np, *received, total_macs[np].from_wire());
+        print_np(out, np, *received, total_macs[np]);
     }
     out.text("\n");
     for (std::uint32_t np = 0; np < np_count; ++np) {
         out.text("                     Mac Scan Summary - NP%d\n", np);
         out.text("%s", rule);
-        print_mac_scan(out, private_copy(received->mac_scans[np]));
+        print_mac_scan(out, HostCopy(received->mac_scans[np]).record());
         out.text("\n");
     }
     return 0;
+}
+
+static std::uint32_t print_resources(Output &out, std::uint32_t level, ShowData data)
+{
+    if (data.is_null()) {
+        out.line(level);
+        return null_summary(out, resource_view);
+    }
+    const auto *head = data.at<const ResourceShowData>(0);
+    return head == nullptr ? short_data(out, level, data.size(), sizeof *head)
+                           : print_resource_data(out, level, data.from(sizeof *head), head->length);
+}
+
+std::uint32_t show_resources(Output &out, std::uint32_t level, std::uint32_t /*direction*/, ShowData data)
+{
+    const std::uint32_t status = print_resources(out, level, data);
+    return report_failure(out, level, hardware_private_view, L2FIB_OBJTYPE_RSRC_MON, status, "\n");
 }
 
 } // namespace l2fib

@@ -7,13 +7,6 @@
 namespace l2fib
 {
 
-void StormControlState::to_host()
-{
-    for (Traffic &type : traffic) {
-        l2fib::to_host(type.profile, type.token_bucket_id, type.status);
-    }
-}
-
 enum StormControlStatus : std::uint32_t { status_none = 0, status_config = 3 };
 
 static Literal status_name(std::uint32_t status)
@@ -48,15 +41,15 @@ static void print_table_head(Output &out, std::uint32_t level, bool kbps)
     out.line(level, "%s", rule);
 }
 
-static void zel_l2fib_print_storm_control_rows(Output &out, std::uint32_t level, const StormControlState &state,
-                                               const StormControlProfile &profile, std::uint8_t np)
+static void print_rows(Output &out, std::uint32_t level, const StormControlState &state,
+                       const StormControlProfile &profile, std::uint8_t np)
 {
     for (unsigned type = 0; type < storm_traffic_types; ++type) {
-        const StormControlState::Traffic &traffic = state.traffic[type];
+        const StormControlTraffic &traffic = state.traffic[type];
         if (traffic.status == status_config) {
             out.line(level, "%-15s|%-13s|%-8d|%-13d|0x%-13x|%-10d|%-2d", traffic_names[type],
                      status_name(traffic.status), profile.rate[type],
-                     traffic.profile.get(StormControlState::profile_index), traffic.token_bucket_id,
+                     traffic.profile.get(StormControlTraffic::profile_index), traffic.token_bucket_id,
                      profile.profile_id[type], np);
         } else {
             out.line(level, "%-15s|%-13s|%8s|%13s|%15s|%10s|%-2d", traffic_names[type], status_name(traffic.status),
@@ -85,7 +78,7 @@ void print_storm_control(Output &out, std::uint32_t level, const StormControlCon
 {
     print_configuration(out, level, config);
     print_table_head(out, level, config.kbps);
-    zel_l2fib_print_storm_control_rows(out, level, state, profile, static_cast<std::uint8_t>(np));
+    print_rows(out, level, state, profile, static_cast<std::uint8_t>(np));
 }
 
 } // namespace l2fib

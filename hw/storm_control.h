@@ -11,13 +11,14 @@
 namespace l2fib
 {
 
-/// The limits of one NP. In the show data big-endian.
+/// The limits of one NP.
 struct StormControlProfile {
     S32 rate[storm_traffic_types];
     U16 profile_id[storm_traffic_types]; // 12
     Bytes<2> unread_18;
 
-    void to_host() { l2fib::to_host(rate, profile_id); }
+    using R = StormControlProfile;
+    using Fields = l2fib::Fields<&R::rate, &R::profile_id, &R::unread_18>;
 };
 static_assert(sizeof(StormControlProfile) == 20);
 
@@ -28,6 +29,9 @@ struct StormControlConfig {
         std::int32_t rate;
     };
     Limit limits[storm_traffic_types];
+
+    using R = StormControlConfig;
+    using Fields = l2fib::Fields<&R::limits>;
     bool kbps; // the unit of the rates; packets per second otherwise
 
     [[nodiscard]] bool any_enabled() const
@@ -43,7 +47,7 @@ StormControlConfig storm_control_config(const FeatureFlags &features, const std:
 /// Whether an NP has applied storm control at all: the state for broadcast tells.
 bool has_storm_control(const StormControlState &state);
 
-/// Prints the configuration and the table of what an NP made of it. State and profile are in host order.
+/// Prints the configuration and the table of what an NP made of it.
 void print_storm_control(Output &out, std::uint32_t level, const StormControlConfig &config,
                          const StormControlState &state, const StormControlProfile &profile, std::uint32_t np);
 

@@ -164,16 +164,6 @@ static bool is_set(const UidbEntry &entry, UidbFlag flag)
     return (entry.flags[flag.byte - offsetof(UidbEntry, flags)] & flag.mask) != 0;
 }
 
-static void uidb_entry_to_host(UidbEntry &entry)
-{
-    to_host(entry.bvi_source_xid, entry.l2tp_session, entry.statistics_pointer, entry.ifhandle,
-            entry.mstp_default_ifhandle, entry.destination_xid, entry.l2_acl, entry.bridge_domain,
-            entry.bvi_bridge_domain, entry.ipv4_acl, entry.ipv6_acl, entry.lns_session, entry.lns_tunnel,
-            entry.pppoe_session, entry.qos, entry.uidb_index, entry.pre_vlan1, entry.pre_vlan1_ethertype, entry.vlan1,
-            entry.vlan1_ethertype, entry.pre_vlan2, entry.pre_vlan2_ethertype, entry.vlan2, entry.vlan2_ethertype,
-            entry.lag_pointer);
-}
-
 static void print_flag_line(Output &out, std::uint32_t level, bool ingress, const UidbEntry &entry)
 {
     List line{out, level, "Flags"};
@@ -318,34 +308,27 @@ static void print_egress_lines(Output &out, std::uint32_t level, const UidbEntry
     }
 }
 
-std::uint32_t zel_l2fib_print_uidb_entry(Output &out, std::uint32_t level, std::uint32_t direction,
-                                         std::uint32_t service, UidbEntry *entry)
+static void print_uidb_entry(Output &out, std::uint32_t level, bool ingress, const UidbEntry &entry)
 {
-    if (entry == nullptr) {
-        return null_entry(out, level, __func__);
-    }
-    const bool ingress = direction == L2FIB_INGRESS;
-    to_host(entry->retrieval_status);
-    if (entry->retrieval_status != 0) {
-        if (!ingress && service == 0) {
-            return 0;
-        }
-        out.line(level, "ERROR: Failed to retrieve UIDB: %s", status_text(entry->retrieval_status));
-        return entry->retrieval_status;
-    }
-    uidb_entry_to_host(*entry);
-
     out.line(level, "%s uIDB: ", ingress ? "Ingress" : "Egress");
-    if (!ingress && direction != L2FIB_EGRESS) {
-        return L2FIB_SHOW_ERR_DATA;
-    }
-    print_flag_line(out, level + 1, ingress, *entry);
+    print_flag_line(out, level + 1, ingress, entry);
     if (ingress) {
-        print_ingress_lines(out, level + 1, *entry);
+        print_ingress_lines(out, level + 1, entry);
     } else {
-        print_egress_lines(out, level + 1, *entry);
+        print_egress_lines(out, level + 1, entry);
     }
-    return 0;
+}
+
+void show_uidb_entry(Output &out, std::uint32_t level, std::uint32_t direction, std::uint32_t service,
+                     Received<UidbEntry> &entry)
+{
+    const bool ingress = direction == L2FIB_INGRESS;
+    const std::uint32_t status = entry.to_host_only<&UidbEntry::retrieval_status>();
+    if (status == 0) {
+        print_uidb_entry(out, level, ingress, entry.to_host()); // a status of 0 may be converted again
+    } else if (ingress || service != 0) {
+        out.line(level, "ERROR: Failed to retrieve UIDB: %s", status_text(status));
+    }
 }
 
 } // namespace l2fib

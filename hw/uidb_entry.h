@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/output.h"
-#include "common/stored.h"
+#include "common/record.h"
 
 #include <cstddef>
 
@@ -78,13 +78,24 @@ struct UidbEntry {
     Bytes<6> mac;            //  99
     Bytes<14> flags;         // 105  by byte and mask, as received
     U8 unread_119;
+
+    using R = UidbEntry;
+    using Fields =
+        l2fib::Fields<&R::retrieval_status, &R::bvi_source_xid, &R::l2tp_session, &R::statistics_pointer, &R::unread_16,
+                      &R::ifhandle, &R::mstp_default_ifhandle, &R::destination_xid, &R::l2_acl, &R::unread_34,
+                      &R::bridge_domain, &R::bvi_bridge_domain, &R::ipv4_acl, &R::ipv6_acl, &R::unread_48,
+                      &R::lns_session, &R::lns_tunnel, &R::unread_54, &R::pppoe_session, &R::qos, &R::unread_62,
+                      &R::uidb_index, &R::pre_vlan1, &R::pre_vlan1_ethertype, &R::vlan1, &R::vlan1_ethertype,
+                      &R::pre_vlan2, &R::pre_vlan2_ethertype, &R::vlan2, &R::vlan2_ethertype, &R::lag_pointer,
+                      &R::l2_acl_format, &R::cfm_threshold, &R::unread_88, &R::load_balance_hash, &R::num_vlans,
+                      &R::unread_91, &R::ppp_class_of_service, &R::qos_format, &R::source_port, &R::search_vlan_vector,
+                      &R::tos, &R::shg, &R::wire_exp_tag, &R::mac, &R::flags, &R::unread_119>;
 };
 static_assert(sizeof(UidbEntry) == 120 && offsetof(UidbEntry, mac) == 99 && offsetof(UidbEntry, flags) == 105);
 
 /// Prints an NP's entry for L2FIB_INGRESS or L2FIB_EGRESS. `service` is that of the AC: an entry that could not be read
-/// is passed over on the egress side of a service 0. Statuses: 0, the retrieval status, L2FIB_SHOW_ERR_ARGS for a null
-/// entry, L2FIB_SHOW_ERR_DATA for any other direction.
-std::uint32_t zel_l2fib_print_uidb_entry(Output &out, std::uint32_t level, std::uint32_t direction,
-                                         std::uint32_t service, UidbEntry *entry);
+/// is passed over on the egress side of a service 0.
+void show_uidb_entry(Output &out, std::uint32_t level, std::uint32_t direction, std::uint32_t service,
+                     Received<UidbEntry> &entry);
 
 } // namespace l2fib

@@ -4,13 +4,14 @@
 #include "common/show_data_cursor.h"
 #include "hw/flooding.h"
 #include "hw/np.h"
+#include "zel_l2fib/show.h"
 
 #include <iterator>
 
 namespace l2fib
 {
 
-/// The record of an NP: a single one serves every NP. None for an NP beyond the records.
+/// The record of an NP: a single one serves every NP. None for an NP that has no record.
 template <class Record>
 static Record *record_of(std::span<Record> records, std::uint32_t np)
 {
@@ -27,24 +28,21 @@ static std::uint32_t print_np_without_record(Output &out, std::uint32_t level, s
     return 0;
 }
 
-/// Prints an NP's record; the status is that of its cross-connect entry.
-static std::uint32_t print_np(Output &out, std::uint32_t level, std::uint32_t direction, const AcContext &ac,
-                              std::uint32_t np, VplsNpRecord &record, bool bports_present, const char *handler)
+static void print_np(Output &out, std::uint32_t level, std::uint32_t direction, const AcContext &ac, std::uint32_t np,
+                     VplsNpRecord &record, bool bports_present)
 {
     out.line(level, "NP%d", np);
-    zel_l2fib_print_uidb_entry(out, level + 1, direction, ac.service, &record.uidb);
-    const std::uint32_t status = zel_l2fib_print_xid_entry(out, level + 1, ac.xid, &record.xid);
-    report_xid_failure(out, level + 1, handler, ac.xid, status);
+    show_uidb_entry(out, level + 1, direction, ac.service, record.uidb);
+    print_xid_entry(out, level + 1, ac.xid, record.xid.to_host());
     if (bports_present) {
-        for (Bport &bport : record.bports) {
-            zel_l2fib_print_bport_entry(out, level + 1, &bport.key, &bport.entry);
+        for (Received<Bport> &bport : record.bports) {
+            print_bport(out, level + 1, bport.to_host());
         }
     }
-    return status;
 }
 
-static std::uint32_t zel_l2fib_vpls_egress_print_handler(Output &out, std::uint32_t level, const AcContext &ac,
-                                                         std::uint32_t np_count, ShowData block)
+static std::uint32_t print_egress(Output &out, std::uint32_t level, const AcContext &ac, std::uint32_t np_count,
+                                  ShowData block)
 {
     constexpr std::uint8_t bports_present = 0x01; // of the first byte; the ingress side asks for any bit of the word
     ShowDataCursor cursor{block};
@@ -52,21 +50,19 @@ static std::uint32_t zel_l2fib_vpls_egress_print_handler(Output &out, std::uint3
     if (head.empty()) {
         return short_data(out, level, block.size(), cursor.end());
     }
-    std::uint32_t status = 0;
     const NpRange nps = np_range(ac.requested_np, np_count);
     for (std::uint32_t np = nps.first; np < nps.end; ++np) {
         VplsNpRecord *record = record_of(records, np);
         if (record == nullptr) {
             return print_np_without_record(out, level, np);
         }
-        status = print_np(out, level, L2FIB_EGRESS, ac, np, *record,
-                          (record->bports_present.bytes[0] & bports_present) != 0, __func__);
+        print_np(out, level, L2FIB_EGRESS, ac, np, *record, (record->bports_present.bytes[0] & bports_present) != 0);
     }
-    return status;
+    return 0;
 }
 
-static void print_ac_storm_control(Output &out, std::uint32_t level, const BridgePortContext &port, std::uint32_t np,
-                                   StormControlProfile &profile)
+static void print_storm_control_of_np(Output &out, std::uint32_t level, const BridgePortContext &port, std::uint32_t np,
+                                      Received<StormControlProfile> &profile)
 {
     const bool kbps = (port.storm_control_unit & BridgePortContext::storm_control_in_kbps) != 0;
     const StormControlConfig config = storm_control_config(
@@ -75,14 +71,13 @@ static void print_ac_storm_control(Output &out, std::uint32_t level, const Bridg
         out.line(level, "Storm Control not enabled");
     } else if (np >= std::size(port.storm_control)) {
         out.line(level, "Invalid NP ID");
-    } else if (has_storm_control(port.storm_control[np])) {
-        profile.to_host();
-        print_storm_control(out, level, config, port.storm_control[np], profile, np);
+    } else if (const StormControlState &state = port.storm_control[np].value(); has_storm_control(state)) {
+        print_storm_control(out, level, config, state, profile.to_host(), np);
     }
 }
 
-static std::uint32_t zel_l2fib_vpls_ingress_print_handler(Output &out, std::uint32_t level, const AcContext &ac,
-                                                          std::uint32_t np_count, ShowData block)
+static std::uint32_t print_ingress(Output &out, std::uint32_t level, const AcContext &ac, std::uint32_t np_count,
+                                   ShowData block)
 {
     ShowDataCursor cursor{block};
     const auto [head, records, trailer] =
@@ -90,42 +85,36 @@ static std::uint32_t zel_l2fib_vpls_ingress_print_handler(Output &out, std::uint
     if (head.empty()) {
         return short_data(out, level, block.size(), cursor.end());
     }
-    BridgePortContext &port = head.front().port;
-    port.to_host();
+    const BridgePortContext &port = head.front().port.to_host();
     print_flooding(out, level, port);
 
-    std::uint32_t status = 0;
     const NpRange nps = np_range(ac.requested_np, np_count);
     for (std::uint32_t np = nps.first; np < nps.end; ++np) {
         VplsIngressNpRecord *record = record_of(records, np);
         if (record == nullptr) {
             return print_np_without_record(out, level, np);
         }
-        status = print_np(out, level, L2FIB_INGRESS, ac, np, record->np, record->np.bports_present != 0, __func__);
-        print_ac_storm_control(out, level + 1, port, np, record->storm_control);
+        print_np(out, level, L2FIB_INGRESS, ac, np, record->np, record->np.bports_present != 0);
+        print_storm_control_of_np(out, level + 1, port, np, record->storm_control);
     }
-    return status;
+    return 0;
 }
 
 std::uint32_t print_vpls_ac(Output &out, std::uint32_t level, std::uint32_t direction, const AcContext &ac,
                             ShowData block)
 {
-    if (block.is_null()) {
-        out.line(level, "NULL data pointer");
-        return L2FIB_SHOW_ERR_DATA;
+    auto *received_count = block.at<Received<VplsNpCount>>(0);
+    if (received_count == nullptr) {
+        return short_data(out, level, block.size(), sizeof(VplsNpCount));
     }
-    auto *np_count = block.at<U32>(0);
-    if (np_count == nullptr) {
-        return short_data(out, level, block.size(), sizeof(U32));
-    }
-    np_count->to_host();
-    if (!np_count_is_valid(*np_count)) {
+    const std::uint32_t np_count = received_count->to_host().count;
+    if (!np_count_is_valid(np_count)) {
         out.line(level);
-        print_invalid_np_count(out, *np_count);
+        print_invalid_np_count(out, np_count);
         return 0;
     }
-    return direction == L2FIB_INGRESS ? zel_l2fib_vpls_ingress_print_handler(out, level, ac, *np_count, block)
-                                      : zel_l2fib_vpls_egress_print_handler(out, level, ac, *np_count, block);
+    return direction == L2FIB_INGRESS ? print_ingress(out, level, ac, np_count, block)
+                                      : print_egress(out, level, ac, np_count, block);
 }
 
 } // namespace l2fib

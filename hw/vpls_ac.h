@@ -16,39 +16,61 @@ namespace l2fib
 
 /// What one NP holds.
 struct VplsNpRecord {
-    XidEntry xid;
-    U32 bports_present; // 188  in host order as stored
-    Bport bports[2];    // 192
-    UidbEntry uidb;     // 312
+    Received<XidEntry> xid;
+    StoredU32 bports_present;  // 188
+    Received<Bport> bports[2]; // 192
+    Received<UidbEntry> uidb;  // 312
+
+    using R = VplsNpRecord;
+    using Fields = l2fib::Fields<&R::xid, &R::bports_present, &R::bports, &R::uidb>;
 };
 static_assert(sizeof(VplsNpRecord) == 432 && offsetof(VplsNpRecord, uidb) == 312);
 
 /// On the ingress side an NP's storm-control profile follows.
 struct VplsIngressNpRecord {
     VplsNpRecord np;
-    StormControlProfile storm_control; // 432
+    Received<StormControlProfile> storm_control; // 432
+
+    using R = VplsIngressNpRecord;
+    using Fields = l2fib::Fields<&R::np, &R::storm_control>;
 };
 static_assert(sizeof(VplsIngressNpRecord) == 452);
 
+/// How many NPs the line card's own software has written records for, after the NP count of the AC.
+struct VplsNpCount {
+    U32 count;
+
+    using R = VplsNpCount;
+    using Fields = l2fib::Fields<&R::count>;
+};
+
 struct VplsEgressBlock {
-    U32 np_count; // VplsNpRecords follow
+    Received<VplsNpCount> np_count; // VplsNpRecords follow
+
+    using R = VplsEgressBlock;
+    using Fields = l2fib::Fields<&R::np_count>;
 };
 static_assert(sizeof(VplsEgressBlock) == 4);
 
 struct VplsIngressBlock {
-    U32 np_count;
+    Received<VplsNpCount> np_count;
     Bytes<4> unread_4;
-    BridgePortContext port; // 8; VplsIngressNpRecords follow
+    Received<BridgePortContext> port; // 8; VplsIngressNpRecords follow
+
+    using R = VplsIngressBlock;
+    using Fields = l2fib::Fields<&R::np_count, &R::unread_4, &R::port>;
 };
 static_assert(sizeof(VplsIngressBlock) == 2596);
 
-/// Closes the ingress block, behind its records.
+/// Closes the ingress block, after its records.
 struct VplsIngressTrailer {
     Bytes<4> unread_0;
+
+    using R = VplsIngressTrailer;
+    using Fields = l2fib::Fields<&R::unread_0>;
 };
 
-/// Prints what the NPs hold; `block` is the hardware's part of the show data. The status of the last NP's cross-connect
-/// entry, or L2FIB_SHOW_ERR_DATA.
+/// Prints what the NPs hold; `block` is the hardware's part of the show data. Statuses: 0, L2FIB_SHOW_ERR_DATA.
 std::uint32_t print_vpls_ac(Output &out, std::uint32_t level, std::uint32_t direction, const AcContext &ac,
                             ShowData block);
 

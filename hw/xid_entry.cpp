@@ -1,15 +1,13 @@
 #include "hw/xid_entry.h"
 
-#include "common/failure.h"
 #include "common/formatters.h"
 #include "common/list.h"
 #include "common/names.h"
-#include "zel_l2fib/show.h"
 
 namespace l2fib
 {
 
-static Literal zel_l2fib_get_xid_type_str(std::uint32_t type)
+static Literal xid_type_name(std::uint32_t type)
 {
     static constexpr Literal names[] = {
         "Unknown",   "AC",  "Bundle",  "Pseudowire (no control word)", "Pseudowire (with control word)",
@@ -54,14 +52,6 @@ static constexpr FlagTable storm_control_flags{{
     {XidEntry::multicast_storm_control, "Multicast"},
     {XidEntry::unknown_unicast_storm_control, "Unknown Unicast"},
 }};
-
-static void xid_entry_to_host(XidEntry &entry)
-{
-    to_host(entry.vpn_id, entry.virtual_port, entry.next_hop_index, entry.translation, entry.flags, entry.type,
-            entry.remote_type, entry.learn_count_limit, entry.learn_count_pointer, entry.learn_key, entry.xc_id,
-            entry.shg, entry.bridge_domain, entry.main_ifhandle, entry.efp_egress_hash, entry.uidb_index, entry.lag_id,
-            entry.imposition_label, entry.disposition_label, entry.nh_index, entry.tunnel_interface);
-}
 
 static void print_ac_lines(Output &out, std::uint32_t level, const XidEntry &entry)
 {
@@ -129,48 +119,35 @@ static void print_storm_control_line(Output &out, std::uint32_t level, const Xid
     line.flags(storm_control_flags, entry.flags);
 }
 
-std::uint32_t zel_l2fib_print_xid_entry(Output &out, std::uint32_t level, std::uint32_t xid, XidEntry *entry)
+void print_xid_entry(Output &out, std::uint32_t level, std::uint32_t xid, const XidEntry &entry)
 {
-    if (entry == nullptr) {
-        return null_entry(out, level, __func__);
-    }
-    xid_entry_to_host(*entry);
-
     List header{out, level};
     header.item("Xconnect ID: 0x%08x", xid);
 
     const std::uint32_t body = level + 1;
     List type{out, body};
-    type.item("Type: %s", zel_l2fib_get_xid_type_str(entry->type));
-    type.item_if(entry->remote_type != 0, "Remote type: %s", zel_l2fib_get_xid_type_str(entry->remote_type));
+    type.item("Type: %s", xid_type_name(entry.type));
+    type.item_if(entry.remote_type != 0, "Remote type: %s", xid_type_name(entry.remote_type));
 
-    const bool is_pw = entry->type == XidEntry::type_pw || entry->type == XidEntry::type_pw_control_word;
-    print_flags(out, body, "Flags", xid_flags, entry->flags, is_pw ? all_flags : all_flags_but(XidEntry::pw_vc_type_4));
+    const bool is_pw = entry.type == XidEntry::type_pw || entry.type == XidEntry::type_pw_control_word;
+    print_flags(out, body, "Flags", xid_flags, entry.flags, is_pw ? all_flags : all_flags_but(XidEntry::pw_vc_type_4));
 
-    if (entry->type == XidEntry::type_ac) {
-        print_ac_lines(out, body, *entry);
-    } else if (entry->type == XidEntry::type_bundle) {
-        print_bundle_line(out, body, *entry);
+    if (entry.type == XidEntry::type_ac) {
+        print_ac_lines(out, body, entry);
+    } else if (entry.type == XidEntry::type_bundle) {
+        print_bundle_line(out, body, entry);
     } else if (is_pw) {
-        print_pw_lines(out, body, *entry);
+        print_pw_lines(out, body, entry);
     }
-    if (entry->flags.test(XidEntry::vpls)) {
-        print_vpls_line(out, body, *entry);
+    if (entry.flags.test(XidEntry::vpls)) {
+        print_vpls_line(out, body, entry);
     }
-    if (entry->flags.test(XidEntry::broadcast_storm_control) || entry->flags.test(XidEntry::multicast_storm_control) ||
-        entry->flags.test(XidEntry::unknown_unicast_storm_control)) {
-        print_storm_control_line(out, body, *entry);
+    if (entry.flags.test(XidEntry::broadcast_storm_control) || entry.flags.test(XidEntry::multicast_storm_control) ||
+        entry.flags.test(XidEntry::unknown_unicast_storm_control)) {
+        print_storm_control_line(out, body, entry);
     }
     List shg{out, body};
-    shg.item("Split Horizon Group: %s", shg_text(entry->shg));
-    return 0;
-}
-
-void report_xid_failure(Output &out, std::uint32_t level, const char *handler, std::uint32_t xid, std::uint32_t status)
-{
-    if (status != 0) {
-        out.line(level, "%s: Failed to print HW entry xid: 0x%x - %s", handler, xid, status_text(status));
-    }
+    shg.item("Split Horizon Group: %s", shg_text(entry.shg));
 }
 
 } // namespace l2fib

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/output.h"
-#include "common/stored.h"
+#include "common/record.h"
 
 #include <cstddef>
 
@@ -48,14 +48,19 @@ struct XidEntry {
     S32 nh_index;          // 166
     S32 tunnel_interface;  // 170  the ASIC's
     Bytes<14> unread_174;
+
+    using R = XidEntry;
+    using Fields =
+        l2fib::Fields<&R::vpn_id, &R::virtual_port, &R::next_hop_index, &R::translation, &R::flags, &R::unread_20,
+                      &R::type, &R::remote_type, &R::learn_count_limit, &R::learn_count_pointer, &R::learn_key,
+                      &R::xc_id, &R::shg, &R::unread_52, &R::bridge_domain, &R::main_ifhandle, &R::msti,
+                      &R::efp_egress_hash, &R::uidb_index, &R::lag_id, &R::imposition_label, &R::disposition_label,
+                      &R::nh_index, &R::tunnel_interface, &R::unread_174>;
 };
 static_assert(sizeof(XidEntry) == 188 && offsetof(XidEntry, bridge_domain) == 137 &&
               offsetof(XidEntry, tunnel_interface) == 170);
 
-/// Prints the entry that an NP holds for a cross-connect. L2FIB_SHOW_ERR_ARGS for a null entry.
-std::uint32_t zel_l2fib_print_xid_entry(Output &out, std::uint32_t level, std::uint32_t xid, XidEntry *entry);
-
-/// Reports, for the handler of an object, an entry that could not be printed; nothing for status 0.
-void report_xid_failure(Output &out, std::uint32_t level, const char *handler, std::uint32_t xid, std::uint32_t status);
+/// Prints the entry that an NP holds for a cross-connect.
+void print_xid_entry(Output &out, std::uint32_t level, std::uint32_t xid, const XidEntry &entry);
 
 } // namespace l2fib

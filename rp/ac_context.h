@@ -1,8 +1,8 @@
 // The RP's context of an attachment circuit (AC).
 #pragma once
 
-#include "common/stored.h"
-#include "zel_l2fib/show.h"
+#include "common/record.h"
+#include "rp/np_count.h"
 
 #include <cstddef>
 
@@ -62,27 +62,31 @@ struct AcContext {
     Bytes<12> unread_68;
     U16 unread_80;
     Bytes<14> unread_82;
-    U32 requested_np; //  96  in host order as stored: 0 to 9 asks for that NP, more for all of them
+    StoredU32 requested_np; //  96  0 to 9 asks for that NP, more for all of them
     Bytes<4> unread_100;
 
-    void to_host();
+    using R = AcContext;
+    using Fields = l2fib::Fields<&R::unread_0, &R::service, &R::state, &R::ifhandle, &R::rack_id, &R::unread_18,
+                                 &R::sfp, &R::xid, &R::bridge_id, &R::shg, &R::mac_limit, &R::main_interface_type,
+                                 &R::unread_42, &R::unread_44, &R::unread_48, &R::flags, &R::unread_68, &R::unread_80,
+                                 &R::unread_82, &R::requested_np, &R::unread_100>;
 };
 static_assert(sizeof(AcContext) == 104 && offsetof(AcContext, flags) == 64);
 
-/// Bytes that the platform keeps for each NP behind the context of an AC or a bridge.
-constexpr std::uint64_t np_entry_size = 20;
-
-/// An AC's show data as far as its size is fixed; np_count entries of np_entry_size follow.
+/// An AC's show data as far as its size is fixed; np_entry_size bytes for each NP follow.
 struct AcShowData {
-    U16 np_count; // stays big-endian; only its low byte counts in sizes
-    AcContext context;
+    NpCount np_count;
+    Received<AcContext> context; // 2
+
+    using R = AcShowData;
+    using Fields = l2fib::Fields<&R::np_count, &R::context>;
 
     /// Where the hardware's part begins, that of a VPLS AC with its bridge port.
     [[nodiscard]] std::uint64_t hardware_offset() const
     {
-        return offsetof(AcShowData, context) +
-               zel_l2fib_data_size(L2FIB_OBJTYPE_AC, static_cast<std::uint8_t>(np_count.from_wire()));
+        return sizeof(AcShowData) + np_entry_size * np_count.low_byte();
     }
 };
+static_assert(sizeof(AcShowData) == 106);
 
 } // namespace l2fib

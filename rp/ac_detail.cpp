@@ -34,10 +34,9 @@ static constexpr FlagTable ac_flags{{
     {AcContext::span, "SPAN"},
 }};
 
-void print_ac_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data)
+static void print_ac(Output &out, std::uint32_t direction, std::uint8_t *show_data)
 {
-    AcContext &ac = ShowData::promised<AcShowData>(show_data).context;
-    ac.to_host();
+    const AcContext &ac = ShowData::unchecked<AcShowData>(show_data).context.to_host();
 
     out.first_line(1, "Platform AC context:");
 
@@ -52,5 +51,7 @@ void print_ac_detail(Output &out, std::uint32_t direction, std::uint8_t *show_da
     forwarding.item("XID: 0x%08x", ac.xid);
     forwarding.item("SHG: %s", shg_text(ac.shg));
 }
+
+constexpr DetailView ac_detail{end_of<AcShowData>, print_ac};
 
 } // namespace l2fib

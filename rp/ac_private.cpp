@@ -65,17 +65,28 @@ static void print_bridge_port(Output &out, const BridgePortContext &port)
     values.line("np flood mask old  : %d", port.np_flood_mask_old);
 }
 
-void print_ac_private(Output &out, std::uint8_t *show_data)
+static void print_ac_and_port(Output &out, std::uint8_t *show_data)
 {
-    auto &ac = ShowData::promised<AcShowData>(show_data);
-    ac.context.to_host();
-    print_ac(out, ac.context);
+    auto &parts = ShowData::unchecked<AcShowData>(show_data);
+    const AcContext &ac = parts.context.to_host();
+    print_ac(out, ac);
 
-    if (ac.context.service == service_vpls) {
-        auto &port = ShowData::promised<BridgePortContext>(show_data, ac.hardware_offset());
-        port.to_host();
-        print_bridge_port(out, port);
+    if (ac.service == service_vpls) {
+        auto &port = ShowData::unchecked<Received<BridgePortContext>>(show_data, parts.hardware_offset());
+        print_bridge_port(out, port.to_host());
     }
 }
+
+/// The bridge port of a VPLS AC follows the AC.
+static std::uint64_t ac_end(ShowData data)
+{
+    const auto *parts = data.at<AcShowData>(0);
+    if (parts == nullptr || parts->context.peek<&AcContext::service>() != service_vpls) {
+        return sizeof(AcShowData);
+    }
+    return parts->hardware_offset() + sizeof(BridgePortContext);
+}
+
+constexpr PrivateView ac_private{ac_end, print_ac_and_port};
 
 } // namespace l2fib

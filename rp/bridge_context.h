@@ -1,15 +1,16 @@
 // The RP's context of a bridge, and the HAL's context at its end.
 #pragma once
 
-#include "common/stored.h"
+#include "common/record.h"
 #include "rp/feature_flags.h"
+#include "rp/np_count.h"
 
 #include <cstddef>
 
 namespace l2fib
 {
 
-/// What the hardware abstraction layer (HAL) keeps of a bridge. In host order as stored.
+/// What the hardware abstraction layer (HAL) keeps of a bridge.
 struct BridgeHalContext {
     enum Flag : unsigned {
         mac_count_read_pending = 0,
@@ -22,16 +23,23 @@ struct BridgeHalContext {
     U8 flags;     //  4
     U8 learn_key; //  5
     Bytes<6> unread_6;
-    U32 vni_id; // 12
+    StoredU32 vni_id; // 12
+
+    using R = BridgeHalContext;
+    using Fields = l2fib::Fields<&R::unread_0, &R::flags, &R::learn_key, &R::unread_6, &R::vni_id>;
 };
 static_assert(sizeof(BridgeHalContext) == 16);
 
-/// What the HAL keeps of a bridge for one NP. In host order as stored.
+/// What the HAL keeps of a bridge for one NP.
 struct BridgeHalNpEntry {
-    U32 mac_limit_counter_index;
-    U16 shg_members[3];         //  4  members of split-horizon groups 0, 1 and 2
-    U16 irl_shg0_bound_members; // 10
+    StoredU32 mac_limit_counter_index;
+    StoredU16 shg_members[3];         //  4  members of split-horizon groups 0, 1 and 2
+    StoredU16 irl_shg0_bound_members; // 10
     Bytes<8> unread_12;
+
+    using R = BridgeHalNpEntry;
+    using Fields =
+        l2fib::Fields<&R::mac_limit_counter_index, &R::shg_members, &R::irl_shg0_bound_members, &R::unread_12>;
 
     /// Counted in 16 bits, as the HAL does.
     [[nodiscard]] std::uint16_t members() const
@@ -97,24 +105,46 @@ struct BridgeContext {
     U16 unread_826;
     U32 unread_828[5];
     Bytes<64> unread_848;
-    BridgeHalContext hal; // 912
+
+    using R = BridgeContext;
+    using Fields = l2fib::Fields<
+        &R::unread_0, &R::state, &R::bridge_id, &R::unread_12, &R::unread_20, &R::unread_60, &R::unread_62,
+        &R::unread_64, &R::mac_limit, &R::current_mac_limit, &R::static_macs, &R::port_level_static_macs, &R::mtu,
+        &R::mac_limit_action, &R::unread_92, &R::unread_96, &R::unread_98, &R::unread_100, &R::features, &R::unread_124,
+        &R::unread_128, &R::flags, &R::unread_156, &R::num_pw_members, &R::unread_422, &R::bvi_ifhandle, &R::unread_428,
+        &R::unread_432, &R::unread_500, &R::bvi_xid, &R::last_notification, &R::unread_520, &R::unread_536,
+        &R::unread_544, &R::unread_808, &R::unread_812, &R::unread_824, &R::unread_826, &R::unread_828, &R::unread_848>;
 
     [[nodiscard]] bool bvi_present() const { return features.more.test(FeatureFlags::bvi_present); }
 
-    /// Whether the hardware's part carries the statistics pointers, and the indices and counts of BVIs.
-    [[nodiscard]] bool has_feature_block_1() const;
-    /// Whether it carries the state of storm control.
-    [[nodiscard]] bool has_feature_block_2() const;
+    /// Whether the hardware's part carries the statistics pointers, and the indices and counts of BVIs. Three of the
+    /// flags are known for nothing else.
+    [[nodiscard]] bool has_feature_block_1() const
+    {
+        return bvi_present() || flags.test(8) || flags.test(pbb_statistics_pointer) || flags.test(12) ||
+               flags.test(evpn_statistics_pointer) || flags.test(25) || flags.test(next_hop_has_bvi);
+    }
 
-    void to_host();
+    /// Whether it carries the state of storm control.
+    [[nodiscard]] bool has_feature_block_2() const
+    {
+        return features.features.test(FeatureFlags::storm_control_unknown_unicast) ||
+               features.features.test(FeatureFlags::storm_control_broadcast) ||
+               features.features.test(FeatureFlags::storm_control_multicast);
+    }
 };
-static_assert(sizeof(BridgeContext) == 928 && offsetof(BridgeContext, flags) == 152 &&
-              offsetof(BridgeContext, last_notification) == 512 && offsetof(BridgeContext, hal) == 912);
+static_assert(sizeof(BridgeContext) == 912 && offsetof(BridgeContext, flags) == 152 &&
+              offsetof(BridgeContext, last_notification) == 512);
 
 /// A bridge's show data as far as its size is fixed; np_count entries of BridgeHalNpEntry follow.
 struct BridgeShowData {
-    U16 np_count; // stays big-endian; only its low byte counts in sizes
-    BridgeContext context;
+    NpCount np_count;
+    Received<BridgeContext> context; //   2
+    BridgeHalContext hal;            // 914
+
+    using R = BridgeShowData;
+    using Fields = l2fib::Fields<&R::np_count, &R::context, &R::hal>;
 };
+static_assert(sizeof(BridgeShowData) == 930);
 
 } // namespace l2fib

@@ -19,10 +19,9 @@ static constexpr FlagTable bridge_flags{{
     {BridgeContext::mac_limit_changed, "MAC Limit Changed"},
 }};
 
-void print_bridge_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data)
+static void print_bridge(Output &out, std::uint32_t direction, std::uint8_t *show_data)
 {
-    BridgeContext &bridge = ShowData::promised<BridgeShowData>(show_data).context;
-    bridge.to_host();
+    const BridgeContext &bridge = ShowData::unchecked<BridgeShowData>(show_data).context.to_host();
 
     out.first_line(1, ""); // blank but for its indentation
     out.line(1, "Platform Bridge context:");
@@ -47,5 +46,7 @@ void print_bridge_detail(Output &out, std::uint32_t direction, std::uint8_t *sho
 
     print_flags(out, 3, "Flags", bridge_flags, bridge.flags);
 }
+
+constexpr DetailView bridge_detail{end_of<BridgeShowData>, print_bridge};
 
 } // namespace l2fib

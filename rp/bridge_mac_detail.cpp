@@ -14,11 +14,11 @@ static constexpr FlagTable mac_flags{{
     {BridgeMacContext::evpn, "EVPN"},
 }};
 
-void print_bridge_mac_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data)
+static void print_bridge_mac(Output &out, std::uint32_t direction, std::uint8_t *show_data)
 {
-    auto &mac = ShowData::promised<BridgeMacContext>(show_data);
-    mac.to_host();
-    to_host(mac.unread_20, mac.xid);
+    auto &parts = ShowData::unchecked<BridgeMacShowData>(show_data);
+    const BridgeMacContext &mac = parts.context.to_host();
+    const BridgeMacForwarding &forwarding = parts.forwarding.to_host();
 
     out.first_line(1, "Platform bridge MAC context:");
 
@@ -26,10 +26,12 @@ void print_bridge_mac_detail(Output &out, std::uint32_t direction, std::uint8_t 
     print_direction(summary, direction);
     summary.item("MAC (ver %d)", mac.version);
     summary.item("Bridge id: %d, MAC: %s", mac.bridge_id, mac_text(mac.mac));
-    summary.item("XID: 0x%08x", mac.xid);
+    summary.item("XID: 0x%08x", forwarding.xid);
     summary.item("State: %s", state_name(mac.state));
 
     print_flags(out, 2, "Flags", mac_flags, mac.flags);
 }
+
+constexpr DetailView bridge_mac_detail{end_of<BridgeMacShowData>, print_bridge_mac};
 
 } // namespace l2fib

@@ -1,7 +1,7 @@
 // The RP's context of a bridge port, which the hardware part of a VPLS AC or PW carries too.
 #pragma once
 
-#include "common/stored.h"
+#include "common/record.h"
 #include "rp/feature_flags.h"
 #include "rp/storm_control_state.h"
 
@@ -57,12 +57,20 @@ struct BridgePortContext {
     Bytes<4> unread_144;
     U32 unread_148;
 
-    // The platform's own fields: in host order as stored.
+    // The platform's own fields.
     U8 storm_control_unit; // 152
     Bytes<67> unread_153;
-    StormControlState storm_control[8]; // 220  of NPs 0 to 7
+    StoredRecord<StormControlState> storm_control[8]; // 220  of NPs 0 to 7
 
-    void to_host();
+    using R = BridgePortContext;
+    using Fields =
+        l2fib::Fields<&R::unread_0, &R::state, &R::pi_xid, &R::bridge_id, &R::shg_id, &R::unread_17, &R::unread_20,
+                      &R::mac_limit, &R::num_static_macs, &R::flags, &R::unread_36, &R::slot_mask, &R::unread_48,
+                      &R::unread_60, &R::unread_62, &R::unread_64, &R::features, &R::unknown_unicast_rate,
+                      &R::broadcast_rate, &R::multicast_rate, &R::np_flood_mask, &R::np_flood_mask_old, &R::unread_104,
+                      &R::unread_106, &R::lb_type, &R::p2mp_role, &R::unread_116, &R::last_notification, &R::unread_128,
+                      &R::unread_132, &R::unread_140, &R::unread_144, &R::unread_148, &R::storm_control_unit,
+                      &R::unread_153, &R::storm_control>;
 };
 static_assert(sizeof(BridgePortContext) == 2588 && offsetof(BridgePortContext, features) == 76 &&
               offsetof(BridgePortContext, unread_148) == 148);

@@ -7,7 +7,7 @@
 namespace l2fib
 {
 
-/// The flags that an operator sees as one list stand in three words of the record.
+/// The flags that an operator sees as one list are in three words of the record.
 struct PortFlag {
     enum Word : std::uint8_t { port, feature, more_feature };
 
@@ -51,10 +51,9 @@ static Literal p2mp_role_name(std::uint32_t role)
     return name_of(names, role, "invalid");
 }
 
-void print_bridge_port_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data)
+static void print_bridge_port(Output &out, std::uint32_t direction, std::uint8_t *show_data)
 {
-    auto &port = ShowData::promised<BridgePortContext>(show_data);
-    port.to_host();
+    const BridgePortContext &port = ShowData::unchecked<Received<BridgePortContext>>(show_data).to_host();
 
     out.first_line(1, "Platform Bridge Port context:");
     out.line(1, "Last notification sent at: %s", timestamp_text(port.last_notification));
@@ -82,5 +81,7 @@ void print_bridge_port_detail(Output &out, std::uint32_t direction, std::uint8_t
         forwarding.item("P2MP Role: %s", p2mp_role_name(port.p2mp_role));
     }
 }
+
+constexpr DetailView bridge_port_detail{end_of<Received<BridgePortContext>>, print_bridge_port};
 
 } // namespace l2fib

@@ -6,10 +6,9 @@
 namespace l2fib
 {
 
-void print_bridge_private(Output &out, std::uint8_t *show_data)
+static void print_bridge(Output &out, std::uint8_t *show_data)
 {
-    BridgeContext &bridge = ShowData::promised<BridgeShowData>(show_data).context;
-    bridge.to_host();
+    const BridgeContext &bridge = ShowData::unchecked<BridgeShowData>(show_data).context.to_host();
 
     out.line(1, "Bridge Context");
     out.line(1, "-------------------");
@@ -25,5 +24,7 @@ void print_bridge_private(Output &out, std::uint8_t *show_data)
     values.item("bvi xid pd: %d", bridge.bvi_xid);
     out.line(2);
 }
+
+constexpr PrivateView bridge_private{end_of<BridgeShowData>, print_bridge};
 
 } // namespace l2fib

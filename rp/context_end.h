@@ -6,8 +6,11 @@
 namespace l2fib
 {
 
-/// Where the RP context that the private or the detail view reads of an object ends, as far as `data` can tell: where
-/// it ends before a count that decides, the end of that count's record. 0 for objects that the view does not read.
-std::uint64_t context_end(bool private_view, std::uint32_t objtype, ShowData data);
+/// Where an RP context ends that is always of the same size.
+template <ShowDataPiece Part>
+constexpr std::uint64_t end_of(ShowData /*data*/)
+{
+    return sizeof(Part);
+}
 
 } // namespace l2fib

@@ -2,16 +2,22 @@
 #pragma once
 
 #include "common/list.h"
+#include "rp/context_end.h"
 #include "zel_l2fib/show.h"
 
 namespace l2fib
 {
 
-void print_ac_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data);
-void print_pw_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data);
-void print_bridge_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data);
-void print_bridge_port_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data);
-void print_bridge_mac_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data);
+struct DetailView {
+    std::uint64_t (*context_end)(ShowData data); ///< how much show data it reads
+    void (*print)(Output &out, std::uint32_t direction, std::uint8_t *show_data);
+};
+
+extern const DetailView ac_detail;
+extern const DetailView pw_detail;
+extern const DetailView bridge_detail;
+extern const DetailView bridge_port_detail;
+extern const DetailView bridge_mac_detail;
 
 /// The word that opens an object's first line; what follows it follows without a comma.
 inline void print_direction(List &line, std::uint32_t direction)

@@ -1,8 +1,6 @@
 #include "rp/event_statistics.h"
 
-#include "common/failure.h"
 #include "common/formatters.h"
-#include "common/hal_print.h"
 #include "common/working_copies.h"
 
 #include <safe_mem_lib.h>
@@ -10,27 +8,36 @@
 namespace l2fib
 {
 
-/// A private copy that at no time holds anything but zeros and what was received.
+/// A table in host order, apart from the show data. Its memory at no time holds anything but zeros and what was
+/// received.
 template <class Table>
-static Table cleared_private_copy(const Table &received)
+class ClearedCopy
 {
-    Table copy;
-    memset_s(&copy, sizeof copy, 0, sizeof copy);
-    copy_bytes(&copy, &received, sizeof copy);
-    copy.to_host();
-    return copy;
-}
+public:
+    explicit ClearedCopy(const Received<Table> &received)
+    {
+        memset_s(&copy_, sizeof copy_, 0, sizeof copy_);
+        copy_bytes(&copy_, &received, sizeof copy_);
+        copy_.to_host();
+    }
+
+    const Table *operator->() const { return &copy_.converted_before(); }
+
+private:
+    Received<Table> copy_;
+};
 
 constexpr Literal rule = "--------------------------------------------------------------------\n";
 
-static void print_counts(Output &out, const EventCounts &counts)
+void print_event_counts(Output &out, const Received<EventCounts> &received)
 {
+    const ClearedCopy counts(received);
     out.text("\n"
              "                          Event Statistics Summary\n");
     out.text("%s", rule);
     out.text("             Create      Modify        Bind       Unbind      Delete\n");
     for (const ObjectKind &kind : object_kinds) {
-        const Events<U32> &events = counts.kinds[kind.row];
+        const Events<U32> &events = counts->kinds[kind.row];
         out.text(" %-13s%5d        %4d       %5d        %5d       %5d\n", kind.name, events.created, events.modified,
                  events.bound, events.unbound, events.deleted);
     }
@@ -38,14 +45,15 @@ static void print_counts(Output &out, const EventCounts &counts)
 }
 
 /// In another order than the counts.
-static void print_times(Output &out, const EventTimes &times)
+void print_event_times(Output &out, const Received<EventTimes> &received)
 {
+    const ClearedCopy times(received);
     out.text("\n"
              "                          Performance Statistics Summary\n");
     out.text("%s", rule);
     out.text("                  Create     Modify     Delete       Bind     Unbind\n");
     for (const ObjectKind &kind : object_kinds) {
-        const Events<U64> &events = times.kinds[kind.row];
+        const Events<U64> &events = times->kinds[kind.row];
         out.text(" %-13s", kind.name);
         for (const U64 time : {events.created, events.modified, events.deleted, events.bound, events.unbound}) {
             out.text("%11s", elapsed_text(time));
@@ -55,28 +63,3 @@ static void print_times(Output &out, const EventTimes &times)
 }
 
 } // namespace l2fib
-
-uint32_t zel_l2fib_platform_msg_counter_hw_print_internal(uint32_t node_id, uint32_t hw_arg, uint8_t *show_data,
-                                                          uint64_t size)
-{
-    using namespace l2fib;
-    Output out;
-    if (const auto status = summary_refusal(out, __func__, show_data, size)) {
-        return *status;
-    }
-    const ShowData data{show_data, size};
-    const auto *counts = data.at<EventCounts>(0);
-    if (counts == nullptr) {
-        return wrong_summary_size(out, __func__, size);
-    }
-    print_counts(out, cleared_private_copy(*counts));
-
-    const ShowData rest = data.from(sizeof(EventCounts));
-    const auto *times = rest.at<EventTimes>(0);
-    if (times == nullptr) {
-        return wrong_summary_size(out, __func__, rest.size());
-    }
-    print_times(out, cleared_private_copy(*times));
-    return hand_over_summary(out, node_id, hw_arg, rest.from(sizeof(EventTimes)),
-                             &zel_l2fib_hal_print_row::statistics_print);
-}

@@ -1,7 +1,7 @@
 // The layer-2 features that a bridge passes on to its ports: the same words in both records.
 #pragma once
 
-#include "common/stored.h"
+#include "common/record.h"
 
 namespace l2fib
 {
@@ -37,7 +37,8 @@ struct FeatureFlags {
     FlagWord<one_bit(32)> more;
     FlagWord<one_bit(2), wide(6)> unread_8;
 
-    void to_host() { l2fib::to_host(features, more, unread_8); }
+    using R = FeatureFlags;
+    using Fields = l2fib::Fields<&R::features, &R::more, &R::unread_8>;
 };
 static_assert(sizeof(FeatureFlags) == 12);
 

@@ -1,7 +1,7 @@
 // The RP's context of a next hop.
 #pragma once
 
-#include "common/stored.h"
+#include "common/record.h"
 #include "rp/path.h"
 
 #include <cstddef>
@@ -31,7 +31,11 @@ struct NextHopContext {
     U32 ecd_data_length; // 25824
     Bytes<52> unread_25828;
 
-    void to_host();
+    using R = NextHopContext;
+    using Fields = l2fib::Fields<&R::unread_0, &R::unread_4, &R::unread_12, &R::l2vpn_ldi_index, &R::recursion_level,
+                                 &R::unread_69, &R::num_paths, &R::unread_72, &R::unread_22856, &R::unread_22858,
+                                 &R::unread_25804, &R::unread_25808, &R::unread_25812, &R::ecd_version, &R::ecd_type,
+                                 &R::unread_25818, &R::feci_comp_id, &R::ecd_data_length, &R::unread_25828>;
 };
 static_assert(sizeof(NextHopContext) == 25880 && offsetof(NextHopContext, ecd_data_length) == 25824);
 
@@ -41,7 +45,8 @@ struct IgpPath {
     PathDescriptor primary; // 20
     PathDescriptor backup;  // 28
 
-    void to_host();
+    using R = IgpPath;
+    using Fields = l2fib::Fields<&R::state, &R::unread_4, &R::primary, &R::backup>;
 };
 static_assert(sizeof(IgpPath) == 36);
 

@@ -6,17 +6,6 @@
 namespace l2fib
 {
 
-void NextHopContext::to_host()
-{
-    l2fib::to_host(unread_4, l2vpn_ldi_index, num_paths, unread_22856, unread_25804, unread_25808, unread_25812,
-                   feci_comp_id, ecd_data_length);
-}
-
-void IgpPath::to_host()
-{
-    l2fib::to_host(state, unread_4, primary, backup);
-}
-
 static void print_descriptor(Output &out, const PathDescriptor &path)
 {
     TwoColumns values{out, "\t "};
@@ -44,10 +33,9 @@ static void print_path(Output &out, const IgpPath &path)
     }
 }
 
-void print_next_hop_private(Output &out, std::uint8_t *show_data)
+static void print_next_hop(Output &out, std::uint8_t *show_data)
 {
-    auto &next_hop = ShowData::promised<NextHopContext>(show_data);
-    next_hop.to_host();
+    const NextHopContext &next_hop = ShowData::unchecked<Received<NextHopContext>>(show_data).to_host();
 
     out.text("\n\nNext hop context(l3fib)\n-----------------\n");
     TwoColumns values{out, "\t "};
@@ -59,10 +47,19 @@ void print_next_hop_private(Output &out, std::uint8_t *show_data)
     values.item("feci comp id      : %d", next_hop.feci_comp_id);
     values.item("ecd data length : %d", next_hop.ecd_data_length);
 
-    for (IgpPath &path : ShowData::promised_array<IgpPath>(show_data, sizeof(NextHopContext), next_hop.num_paths)) {
-        path.to_host();
-        print_path(out, path);
+    for (Received<IgpPath> &path :
+         ShowData::unchecked_array<Received<IgpPath>>(show_data, sizeof next_hop, next_hop.num_paths)) {
+        print_path(out, path.to_host());
     }
 }
+
+static std::uint64_t next_hop_end(ShowData data)
+{
+    const auto *next_hop = data.at<Received<NextHopContext>>(0);
+    const std::uint64_t paths = next_hop == nullptr ? 0 : next_hop->peek<&NextHopContext::num_paths>();
+    return sizeof(NextHopContext) + paths * sizeof(IgpPath);
+}
+
+constexpr PrivateView next_hop_private{next_hop_end, print_next_hop};
 
 } // namespace l2fib

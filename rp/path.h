@@ -1,7 +1,7 @@
 // The layer-3 paths of a next hop and of a pseudowire.
 #pragma once
 
-#include "common/stored.h"
+#include "common/record.h"
 
 namespace l2fib
 {
@@ -15,7 +15,8 @@ struct PathDescriptor {
     U16 sfp_or_lagid; // 2
     U32 ifhandle;     // 4
 
-    void to_host() { l2fib::to_host(flags, sfp_or_lagid, ifhandle); }
+    using R = PathDescriptor;
+    using Fields = l2fib::Fields<&R::flags, &R::sat_lag_hash, &R::sfp_or_lagid, &R::ifhandle>;
 };
 static_assert(sizeof(PathDescriptor) == 8);
 
@@ -25,7 +26,8 @@ struct PathState {
 
     FlagWord<one_bit(2), wide(6)> flags;
 
-    void to_host() { flags.to_host(); }
+    using R = PathState;
+    using Fields = l2fib::Fields<&R::flags>;
 };
 static_assert(sizeof(PathState) == 4);
 

@@ -2,15 +2,19 @@
 #pragma once
 
 #include "common/output.h"
-
-#include <cstdint>
+#include "rp/context_end.h"
 
 namespace l2fib
 {
 
-void print_ac_private(Output &out, std::uint8_t *show_data);
-void print_pw_private(Output &out, std::uint8_t *show_data);
-void print_next_hop_private(Output &out, std::uint8_t *show_data);
-void print_bridge_private(Output &out, std::uint8_t *show_data);
+struct PrivateView {
+    std::uint64_t (*context_end)(ShowData data); ///< how much show data it reads
+    void (*print)(Output &out, std::uint8_t *show_data);
+};
+
+extern const PrivateView ac_private;
+extern const PrivateView pw_private;
+extern const PrivateView next_hop_private;
+extern const PrivateView bridge_private;
 
 } // namespace l2fib

@@ -1,7 +1,7 @@
 // The RP's context of a pseudowire (PW), object type MPLS.
 #pragma once
 
-#include "common/stored.h"
+#include "common/record.h"
 
 #include <cstddef>
 
@@ -30,7 +30,6 @@ struct PwContext {
         flow_label_impose = 17,
         reserved = 23, // 9 bits
     };
-    enum LayerFlag : unsigned { layer_invalid = 0 };
 
     U32 unread_0;
     U32 service; //   4
@@ -52,15 +51,37 @@ struct PwContext {
     Bytes<2> unread_222;
     U32 unread_224;
 
-    // The platform's own fields: the hardware views convert them, not the RP's.
-    U32 platform_words[2]; // 228
-    Bytes<64> unread_236;
-    U8 port_learn_key;                         // 300
-    FlagByte<one_bit(1), wide(7)> layer_flags; // 301
-    Bytes<2> unread_302;
-
-    void to_host();
+    using R = PwContext;
+    using Fields =
+        l2fib::Fields<&R::unread_0, &R::service, &R::state, &R::unread_12, &R::xid, &R::bridge_id, &R::mac_limit,
+                      &R::vc_label, &R::disp_vc_label, &R::unread_36, &R::nr_ldi_hash, &R::r_ldi_hash, &R::lag_hash,
+                      &R::shg, &R::unread_80, &R::flags, &R::unread_220, &R::unread_222, &R::unread_224>;
 };
-static_assert(sizeof(PwContext) == 304 && offsetof(PwContext, flags) == 216 && offsetof(PwContext, layer_flags) == 301);
+static_assert(sizeof(PwContext) == 228 && offsetof(PwContext, flags) == 216);
+
+/// The platform's own fields, which the hardware's view converts.
+struct PwPlatform {
+    enum LayerFlag : unsigned { layer_invalid = 0 };
+
+    U32 unread_0[2];
+    Bytes<64> unread_8;
+    U8 port_learn_key;                         // 72
+    FlagByte<one_bit(1), wide(7)> layer_flags; // 73
+    Bytes<2> unread_74;
+
+    using R = PwPlatform;
+    using Fields = l2fib::Fields<&R::unread_0, &R::unread_8, &R::port_learn_key, &R::layer_flags, &R::unread_74>;
+};
+static_assert(sizeof(PwPlatform) == 76 && offsetof(PwPlatform, layer_flags) == 73);
+
+/// The show data of a PW up to the hardware's part.
+struct PwShowData {
+    Received<PwContext> context;
+    Received<PwPlatform> platform; // 228
+
+    using R = PwShowData;
+    using Fields = l2fib::Fields<&R::context, &R::platform>;
+};
+static_assert(sizeof(PwShowData) == 304);
 
 } // namespace l2fib

@@ -28,10 +28,9 @@ static constexpr FlagTable pw_flags{{
     {PwContext::lb_vc_enabled, "vc label lb"},
 }};
 
-void print_pw_detail(Output &out, std::uint32_t direction, std::uint8_t *show_data)
+static void print_pw(Output &out, std::uint32_t direction, std::uint8_t *show_data)
 {
-    auto &pw = ShowData::promised<PwContext>(show_data);
-    pw.to_host();
+    const PwContext &pw = ShowData::unchecked<PwShowData>(show_data).context.to_host();
 
     out.first_line(1, "Platform PW context:");
 
@@ -53,5 +52,7 @@ void print_pw_detail(Output &out, std::uint32_t direction, std::uint8_t *show_da
 
     print_flags(out, 2, "Flags", pw_flags, pw.flags);
 }
+
+constexpr DetailView pw_detail{end_of<PwShowData>, print_pw};
 
 } // namespace l2fib

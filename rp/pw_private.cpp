@@ -27,17 +27,16 @@ static constexpr FlagTable pw_flags{{
     {PwContext::flow_label_impose, "flow label impose   "},
 }};
 
-void print_pw_private(Output &out, std::uint8_t *show_data)
+static void print_pw(Output &out, std::uint8_t *show_data)
 {
-    auto &pw = ShowData::promised<PwContext>(show_data);
-    pw.to_host();
+    const PwContext &pw = ShowData::unchecked<PwShowData>(show_data).context.to_host();
 
     out.text("\nPW context\n----------------\n");
     TwoColumns values{out, "\t\t"};
     values.item("bridge id           : %d", pw.bridge_id);
     values.item("mac limit            : %d", pw.mac_limit);
 
-    // Labels and hashes are long numbers: one tab is enough behind them.
+    // Labels and hashes are long numbers: one tab is enough after them.
     TwoColumns long_values{out, "\t"};
     long_values.item("vc label            : %d", pw.vc_label);
     long_values.item("nr ldi hash          : %d", pw.nr_ldi_hash);
@@ -48,5 +47,7 @@ void print_pw_private(Output &out, std::uint8_t *show_data)
     values.flags(pw_flags, pw.flags);
     values.item("reserved             : %d", pw.flags.get(PwContext::reserved));
 }
+
+constexpr PrivateView pw_private{end_of<PwShowData>, print_pw};
 
 } // namespace l2fib

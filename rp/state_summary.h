@@ -1,28 +1,34 @@
 // The platform state summary: how many objects of each kind there are.
 #pragma once
 
-#include "common/stored.h"
+#include "common/output.h"
+#include "common/record.h"
 #include "rp/object_kinds.h"
 
 namespace l2fib
 {
 
 struct ObjectCounts {
-    U32 unread_0;
+    Bytes<4> unread_0;
     U32 created; //  4
     U32 bound;   //  8
     U32 unbound; // 12
-    U32 unread_16;
+    Bytes<4> unread_16;
 
-    void to_host() { l2fib::to_host(created, bound, unbound); }
+    using R = ObjectCounts;
+    using Fields = l2fib::Fields<&R::unread_0, &R::created, &R::bound, &R::unbound, &R::unread_16>;
 };
 
 /// The hardware's part follows, at least a byte of it.
 struct StateSummary {
     ObjectCounts kinds[object_kind_rows];
 
-    void to_host() { l2fib::to_host(kinds); }
+    using R = StateSummary;
+    using Fields = l2fib::Fields<&R::kinds>;
 };
 static_assert(sizeof(StateSummary) == 540);
+
+/// Prints from a copy: the show data stays as received.
+void print_state_summary(Output &out, const Received<StateSummary> &received);
 
 } // namespace l2fib

@@ -1,4 +1,4 @@
-#include "hw/bridge_handler.h"
+#include "hw/bridge.h"
 
 #include "common/failure.h"
 #include "common/list.h"
@@ -8,15 +8,21 @@
 #include "hw/bridge_hal_context.h"
 #include "hw/bridge_member.h"
 #include "hw/np.h"
+#include "hw/objects.h"
 #include "hw/storm_control.h"
+#include "hw/view_names.h"
 #include "rp/bridge_context.h"
+#include "zel_l2fib/show.h"
 
 #include <algorithm>
 
 namespace l2fib
 {
 
-/// Walks through the show data of a bridge and prints what the NPs hold. A step that returns false met the end of it.
+constexpr Literal bridge_handler = "zel_l2fib_brg_print_handler";
+
+/// Walks through the show data of a bridge, and prints what the HAL and the NPs hold. A step that returns false met the
+/// end of it.
 class BridgeWalk
 {
 public:
@@ -37,7 +43,7 @@ private:
     bool print_pw_over_bvi_members();
 
     [[nodiscard]] std::uint32_t np_count() const { return static_cast<std::uint32_t>(hal_nps_.size()); }
-    std::uint32_t cut_short() { return short_data(out_, level_ + 1, data_.size(), cursor_.end()); }
+    std::uint32_t cut_short(std::uint32_t level) { return short_data(out_, level, data_.size(), cursor_.end()); }
 
     Output &out_;
     std::uint32_t level_;
@@ -45,44 +51,47 @@ private:
     ShowDataCursor cursor_;
 
     const BridgeContext *bridge_ = nullptr;
+    const BridgeHalContext *hal_ = nullptr;
     std::span<const BridgeHalNpEntry> hal_nps_;
-    const BridgeFeatureBlock1 *feature_block_1_ = nullptr;       // there for every flag that asks for it
-    std::span<const BridgeFeatureBlock1Np> feature_block_1_nps_; // likewise
+    const BridgeFeatureBlock1 *feature_block_1_ = nullptr;           // there for every flag that asks for it
+    std::span<Received<BridgeFeatureBlock1Np>> feature_block_1_nps_; // likewise, and converted with it
     const BridgeMemberCounts *counts_ = nullptr;
     std::uint32_t printed_members_ = 0;
 };
 
+/// Walks through the RP's context, and the HAL's at its end.
 std::uint32_t BridgeWalk::print(std::uint32_t direction)
 {
-    const auto *show_data = cursor_.take<BridgeShowData>();
-    if (show_data == nullptr) {
-        return cut_short();
+    const auto *parts = cursor_.take<BridgeShowData>();
+    if (parts == nullptr) {
+        return cut_short(level_);
     }
-    const std::uint32_t np_count = show_data->np_count.from_wire();
+    out_.line(level_);
+    const std::uint32_t np_count = parts->np_count.count; // all of it here: a bridge with more NPs is reported
     if (!np_count_is_valid(np_count)) {
-        out_.line(level_ + 1);
         print_invalid_np_count(out_, np_count);
-        if (np_count > max_nps) {
-            out_.text(". Bridge.");
-        }
         return 0;
     }
-    bridge_ = &show_data->context;
+    bridge_ = &parts->context.converted_before();
+    hal_ = &parts->hal;
     hal_nps_ = cursor_.take<BridgeHalNpEntry>(np_count);
-    return hal_nps_.empty() ? cut_short() : print_hardware(direction);
+    if (hal_nps_.empty()) {
+        return cut_short(level_);
+    }
+    print_bridge_hal_context(out_, level_, *hal_, hal_nps_);
+    return print_hardware(direction);
 }
 
 std::uint32_t BridgeWalk::print_hardware(std::uint32_t direction)
 {
     if (bridge_->has_feature_block_1() && !take_feature_block_1()) {
-        return cut_short();
+        return cut_short(level_ + 1);
     }
-    auto *counts = cursor_.take<BridgeMemberCounts>();
+    auto *counts = cursor_.take<Received<BridgeMemberCounts>>();
     if (counts == nullptr) {
-        return cut_short();
+        return cut_short(level_ + 1);
     }
-    counts->to_host();
-    counts_ = counts;
+    counts_ = &counts->to_host();
 
     out_.line(level_ + 1);
     out_.line(level_ + 1, "Platform Bridge Domain Hardware Information:");
@@ -93,57 +102,57 @@ std::uint32_t BridgeWalk::print_hardware(std::uint32_t direction)
         }
         out_.line(level_ + 2);
     }
-    for (std::uint32_t np = 0; np < hal_nps_.size(); ++np) {
+    for (std::uint32_t np = 0; np < np_count(); ++np) {
         if (!print_np(np)) {
-            return cut_short();
+            return cut_short(level_ + 1);
         }
     }
     out_.line(level_ + 2);
     print_next_hop_counts();
-    return print_pw_over_bvi_members() ? 0 : cut_short();
+    return print_pw_over_bvi_members() ? 0 : cut_short(level_ + 1);
 }
 
 bool BridgeWalk::take_feature_block_1()
 {
-    const auto [block, nps] = cursor_.take_together<BridgeFeatureBlock1, BridgeFeatureBlock1Np>(1, np_count());
+    const auto [block, nps] =
+        cursor_.take_together<Received<BridgeFeatureBlock1>, Received<BridgeFeatureBlock1Np>>(1, np_count());
     if (block.empty()) {
         return false;
     }
-    block[0].to_host();
-    for (std::uint32_t np = 0; np < nps.size(); ++np) {
-        nps[np].to_host();
+    feature_block_1_ = &block[0].to_host();
+    feature_block_1_nps_ = nps;
+    for (std::uint32_t np = 0; np < np_count(); ++np) {
+        const BridgeFeatureBlock1Np &entry = nps[np].to_host();
         if (bridge_->bvi_present()) {
-            out_.line(level_ + 1, "NP %d: BVI TCAM index: 0x%08x ", np, nps[np].bvi_tcam_index);
+            out_.line(level_ + 1, "NP %d: BVI TCAM index: 0x%08x ", np, entry.bvi_tcam_index);
         }
     }
-    feature_block_1_ = block.data();
-    feature_block_1_nps_ = nps;
     return true;
 }
 
 /// The first NP's storm control stands for all of them.
 std::uint32_t BridgeWalk::print_storm_control_of_bridge()
 {
-    const auto [states, stored_profiles] =
-        cursor_.take_together<StormControlState, StormControlProfile>(np_count(), np_count());
+    const auto [states, received_profiles] =
+        cursor_.take_together<Received<StormControlState>, Received<StormControlProfile>>(np_count(), np_count());
     if (states.empty()) {
-        return cut_short();
+        return cut_short(level_ + 1);
     }
-    for (StormControlState &state : states) {
-        state.to_host();
+    for (Received<StormControlState> &received : states) {
+        received.to_host();
     }
     WorkingCopies<StormControlProfile> profiles(np_count(), 0);
     if (!profiles.obtained()) {
         return L2FIB_SHOW_ERR_NOMEM;
     }
     for (std::uint32_t np = 0; np < np_count(); ++np) {
-        profiles.fill_in(np, stored_profiles[np]);
+        profiles.fill_in(np, received_profiles[np]);
     }
-    if (has_storm_control(states[0])) {
+    if (const StormControlState &state = states[0].converted_before(); has_storm_control(state)) {
         const auto &rate = profiles[0].rate;
-        const bool kbps = is_set(bridge_->hal.flags, BridgeHalContext::storm_control_unit_kbps);
+        const bool kbps = is_set(hal_->flags, BridgeHalContext::storm_control_unit_kbps);
         const auto config = storm_control_config(bridge_->features, {rate[0], rate[1], rate[2]}, kbps);
-        print_storm_control(out_, level_ + 3, config, states[0], profiles[0], 0);
+        print_storm_control(out_, level_ + 3, config, state, profiles[0], 0);
     }
     return 0;
 }
@@ -151,25 +160,27 @@ std::uint32_t BridgeWalk::print_storm_control_of_bridge()
 bool BridgeWalk::print_np(std::uint32_t np)
 {
     List heading{out_, level_ + 2};
-    auto *domain = cursor_.take<BridgeDomainRecord>();
-    if (domain == nullptr) {
+    auto *received = cursor_.take<Received<BridgeDomainRecord>>();
+    if (received == nullptr) {
         return false;
     }
-    domain->to_host();
+    const BridgeDomainRecord &domain = received->to_host();
     heading.item("Bridge Domain: %d NP %d", bridge_->bridge_id, np);
-    print_bridge_domain_flags(out_, level_ + 3, *domain);
+    print_bridge_domain_flags(out_, level_ + 3, domain);
     print_statistics_pointers(np);
-    print_bridge_domain_values(out_, level_ + 3, *domain);
+    print_bridge_domain_values(out_, level_ + 3, domain);
     return print_members(np);
 }
 
 void BridgeWalk::print_statistics_pointers(std::uint32_t np)
 {
     if (bridge_->flags.test(BridgeContext::pbb_statistics_pointer)) {
-        out_.line(level_ + 3, "pbb-stats-ptr NP %d: 0x%08x ", np, feature_block_1_nps_[np].pbb_statistics_pointer);
+        out_.line(level_ + 3, "pbb-stats-ptr NP %d: 0x%08x ", np,
+                  feature_block_1_nps_[np].converted_before().pbb_statistics_pointer);
     }
     if (bridge_->flags.test(BridgeContext::evpn_statistics_pointer)) {
-        out_.line(level_ + 3, "evpn-stats-ptr NP %d: 0x%08x ", np, feature_block_1_nps_[np].evpn_statistics_pointer);
+        out_.line(level_ + 3, "evpn-stats-ptr NP %d: 0x%08x ", np,
+                  feature_block_1_nps_[np].converted_before().evpn_statistics_pointer);
     }
 }
 
@@ -178,7 +189,7 @@ bool BridgeWalk::print_members(std::uint32_t np)
 {
     const BridgeHalNpEntry &hal = hal_nps_[np];
     for (std::uint32_t member = 0; member < hal.members() && printed_members_ < counts_->members; ++member) {
-        const auto copies = cursor_.take<BridgeMemberRecord>(bridge_member_copies);
+        const auto copies = cursor_.take<Received<BridgeMemberRecord>>(bridge_member_copies);
         if (copies.empty()) {
             return false;
         }
@@ -203,9 +214,10 @@ bool BridgeWalk::print_pw_over_bvi_members()
     if (!bridge_->bvi_present() && !bridge_->flags.test(BridgeContext::next_hop_has_bvi)) {
         return true;
     }
-    const std::uint32_t count = std::min(counts_->pw_over_bvi_members.value(), feature_block_1_nps_[0].members());
+    const std::uint32_t count =
+        std::min(counts_->pw_over_bvi_members.value(), feature_block_1_nps_[0].converted_before().members());
     for (std::uint32_t member = 0; member < count; ++member) {
-        const auto copies = cursor_.take<BridgeMemberRecord>(bridge_member_copies);
+        const auto copies = cursor_.take<Received<BridgeMemberRecord>>(bridge_member_copies);
         if (copies.empty()) {
             return false;
         }
@@ -214,30 +226,11 @@ bool BridgeWalk::print_pw_over_bvi_members()
     return true;
 }
 
-std::uint32_t zel_l2fib_brg_print_handler(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
+std::uint32_t show_bridge(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
 {
-    return data.is_null() ? null_arguments(out, level + 1, __func__) : BridgeWalk{out, level, data}.print(direction);
-}
-
-std::uint32_t print_bridge_with_hal_context(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
-{
-    ShowDataCursor cursor{data};
-    const auto *bridge = cursor.take<BridgeShowData>();
-    if (bridge == nullptr) {
-        return short_data(out, level, data.size(), cursor.end());
-    }
-    out.line(level);
-    const std::uint32_t np_count = bridge->np_count.from_wire();
-    if (!np_count_is_valid(np_count)) {
-        print_invalid_np_count(out, np_count);
-        return 0;
-    }
-    const auto nps = cursor.take<BridgeHalNpEntry>(np_count);
-    if (nps.empty()) {
-        return short_data(out, level, data.size(), cursor.end());
-    }
-    print_bridge_hal_context(out, level, bridge->context.hal, nps);
-    return zel_l2fib_brg_print_handler(out, level, direction, data);
+    const std::uint32_t status =
+        data.is_null() ? null_arguments(out, level + 1, bridge_handler) : BridgeWalk{out, level, data}.print(direction);
+    return report_failure(out, level + 1, hardware_detail_view, L2FIB_OBJTYPE_BRIDGE, status, "\n");
 }
 
 } // namespace l2fib

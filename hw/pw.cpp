@@ -1,4 +1,4 @@
-#include "hw/pw_handler.h"
+#include "hw/pw.h"
 
 #include "common/failure.h"
 #include "common/list.h"
@@ -6,21 +6,27 @@
 #include "common/working_copies.h"
 #include "hw/flooding.h"
 #include "hw/np.h"
+#include "hw/objects.h"
+#include "hw/storm_control.h"
+#include "hw/view_names.h"
 #include "rp/names.h"
+#include "zel_l2fib/show.h"
 
 namespace l2fib
 {
 
-static constexpr FlagTable layer_flags{{{PwContext::layer_invalid, "invalid"}}};
+constexpr Literal pw_handler = "zel_l2fib_pw_print_handler";
 
-static std::uint32_t print_point_to_point(Output &out, std::uint32_t level, ShowData data, const char *handler)
+static constexpr FlagTable layer_flags{{{PwPlatform::layer_invalid, "invalid"}}};
+
+static std::uint32_t print_point_to_point(Output &out, std::uint32_t level, ShowData data)
 {
     ShowDataCursor cursor{data};
-    const auto *pw = cursor.take<PwShowData>();
-    if (pw == nullptr) {
+    const auto *parts = cursor.take<PwHardwareShowData>();
+    if (parts == nullptr) {
         return short_data(out, level, data.size(), cursor.end());
     }
-    const std::uint32_t np_count = pw->np_count.from_wire();
+    const std::uint32_t np_count = parts->np_count;
     if (!np_count_is_valid(np_count)) {
         out.line(level);
         print_invalid_np_count(out, np_count);
@@ -30,13 +36,12 @@ static std::uint32_t print_point_to_point(Output &out, std::uint32_t level, Show
     if (records.empty()) {
         return short_data(out, level, data.size(), cursor.end());
     }
-    std::uint32_t status = 0;
+    const PwContext &pw = parts->rp.context.converted_before();
     for (PwNpRecord &record : records) {
-        out.line(level, "NP%d", record.np.from_wire());
-        status = zel_l2fib_print_xid_entry(out, level + 1, pw->context.xid, &record.xid);
-        report_xid_failure(out, level, handler, pw->context.xid, status);
+        out.line(level, "NP%d", record.np);
+        print_xid_entry(out, level + 1, pw.xid, record.xid.to_host());
     }
-    return status;
+    return 0;
 }
 
 /// The rest of a path's line: where it leaves the router. Its values continue at the line's indentation, its flags
@@ -75,26 +80,24 @@ static void print_vpls_ingress(Output &out, std::uint32_t level, ShowDataCursor 
                                WorkingCopies<BridgePortContext> &port, WorkingCopies<StormControlProfile> &profiles,
                                std::uint32_t np_count)
 {
-    const auto [ingress, stored_profiles] = cursor.take_together<PwIngressBlock, StormControlProfile>(1, np_count);
+    const auto [ingress, received_profiles] =
+        cursor.take_together<PwIngressBlock, Received<StormControlProfile>>(1, np_count);
     if (ingress.empty()) {
         return;
     }
     port.fill_in(0, ingress[0].port);
     print_flooding(out, level, port[0]);
-
-    Layer3Paths paths = ingress[0].paths;
-    paths.to_host();
-    print_paths(out, level, paths);
+    print_paths(out, level, HostCopy(ingress[0].paths).record());
 
     for (std::uint32_t np = 0; np < np_count; ++np) { // no line shows these
-        profiles.fill_in(np, stored_profiles[np]);
+        profiles.fill_in(np, received_profiles[np]);
     }
 }
 
-static std::uint32_t print_vpls(Output &out, std::uint32_t level, std::uint32_t direction, const PwContext &pw,
-                                ShowData data, const char *handler)
+static std::uint32_t print_vpls(Output &out, std::uint32_t level, std::uint32_t direction, const PwPlatform &platform,
+                                ShowData data)
 {
-    print_flags(out, level, "Trident Layer Flags", layer_flags, pw.layer_flags);
+    print_flags(out, level, "Trident Layer Flags", layer_flags, platform.layer_flags);
 
     constexpr std::uint8_t never_filled = 0xff;
     WorkingCopies<BridgePortContext> port(1, never_filled);
@@ -102,48 +105,68 @@ static std::uint32_t print_vpls(Output &out, std::uint32_t level, std::uint32_t 
         return L2FIB_SHOW_ERR_NOMEM;
     }
     ShowDataCursor cursor{data};
-    const auto *show_data = cursor.take<PwShowData>();
-    if (show_data == nullptr) {
+    const auto *parts = cursor.take<PwHardwareShowData>();
+    if (parts == nullptr) {
         return short_data(out, level, data.size(), cursor.end());
     }
-    const std::uint32_t np_count = show_data->np_count.from_wire();
+    const std::uint32_t np_count = parts->np_count;
     if (!np_count_is_valid(np_count)) {
-        print_invalid_np_count(out, np_count); // behind the layer flags, on their line
+        print_invalid_np_count(out, np_count); // after the layer flags, on their line
         return 0;
     }
     WorkingCopies<StormControlProfile> profiles(np_count, 0);
     if (!profiles.obtained()) {
         return L2FIB_SHOW_ERR_NOMEM;
     }
-    const auto entries = cursor.take<XidEntry>(np_count);
+    const auto entries = cursor.take<Received<XidEntry>>(np_count);
     if (entries.empty()) {
         return short_data(out, level, data.size(), cursor.end());
     }
     if (direction == L2FIB_INGRESS) {
         print_vpls_ingress(out, level, cursor, port, profiles, np_count);
     }
-    std::uint32_t status = 0;
+    const PwContext &pw = parts->rp.context.converted_before();
     for (std::uint32_t np = 0; np < np_count; ++np) {
         out.line(level, "NP%d", np);
-        status = zel_l2fib_print_xid_entry(out, level + 1, pw.xid, &entries[np]);
-        report_xid_failure(out, level + 1, handler, pw.xid, status);
+        print_xid_entry(out, level + 1, pw.xid, entries[np].to_host());
     }
-    return status;
+    return 0;
 }
 
-std::uint32_t zel_l2fib_pw_print_handler(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
+static std::uint32_t print_pw(Output &out, std::uint32_t level, std::uint32_t direction, const PwContext &pw,
+                              const PwPlatform &platform, ShowData data)
 {
-    if (data.is_null()) {
-        return null_arguments(out, level, __func__);
+    if (pw.service == service_mtun) {
+        return print_point_to_point(out, level, data);
     }
-    const auto *pw = data.at<PwContext>(0);
-    if (pw != nullptr && pw->service == service_mtun) {
-        return print_point_to_point(out, level, data, __func__);
-    }
-    if (pw != nullptr && pw->service == service_vpls) {
-        return print_vpls(out, level, direction, *pw, data, __func__);
+    if (pw.service == service_vpls) {
+        return print_vpls(out, level, direction, platform, data);
     }
     return L2FIB_SHOW_ERR_DATA;
+}
+
+static std::uint32_t show_received_pw(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
+{
+    if (data.is_null()) {
+        return null_arguments(out, level, pw_handler);
+    }
+    auto *parts = data.at<PwShowData>(0);
+    if (parts == nullptr) {
+        return L2FIB_SHOW_ERR_DATA;
+    }
+    const PwContext &pw = parts->context.converted_before();
+    const PwPlatform &platform = parts->platform.to_host();
+    if (pw.service == service_vpls) {
+        List keys{out, level};
+        keys.item("Port Learn Key: %u", platform.port_learn_key);
+    }
+    return pw.state == state_bound ? print_pw(out, level, direction, pw, platform, data) : 0;
+}
+
+std::uint32_t show_pw(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data)
+{
+    const std::uint32_t status = show_received_pw(out, level, direction, data);
+    return report_failure(out, level, hardware_detail_view, L2FIB_OBJTYPE_MPLS, status);
 }
 
 } // namespace l2fib

@@ -1,9 +1,7 @@
-// What the HAL and the NPs hold for a bridge.
+// What the NPs hold for a bridge.
 #pragma once
 
-#include "common/output.h"
-#include "common/show_data.h"
-#include "common/stored.h"
+#include "common/record.h"
 
 namespace l2fib
 {
@@ -20,7 +18,8 @@ struct BridgeFeatureBlock1 {
     U32 unread_160;
     U32 pw_over_bvi[3]; // 164  of split-horizon groups 0, 1 and 2
 
-    void to_host() { l2fib::to_host(unread_160, pw_over_bvi); }
+    using R = BridgeFeatureBlock1;
+    using Fields = l2fib::Fields<&R::unread_0, &R::unread_160, &R::pw_over_bvi>;
 };
 static_assert(sizeof(BridgeFeatureBlock1) == 176);
 
@@ -31,15 +30,14 @@ struct BridgeFeatureBlock1Np {
     U16 pw_over_bvi_members[3];  // 12  of split-horizon groups 0, 1 and 2
     Bytes<2> unread_18;
 
+    using R = BridgeFeatureBlock1Np;
+    using Fields = l2fib::Fields<&R::pbb_statistics_pointer, &R::evpn_statistics_pointer, &R::bvi_tcam_index,
+                                 &R::pw_over_bvi_members, &R::unread_18>;
+
     /// Counted in 16 bits, as the producer does.
     [[nodiscard]] std::uint16_t members() const
     {
         return static_cast<std::uint16_t>(pw_over_bvi_members[0] + pw_over_bvi_members[1] + pw_over_bvi_members[2]);
-    }
-
-    void to_host()
-    {
-        l2fib::to_host(pbb_statistics_pointer, evpn_statistics_pointer, bvi_tcam_index, pw_over_bvi_members);
     }
 };
 static_assert(sizeof(BridgeFeatureBlock1Np) == 20);
@@ -48,15 +46,9 @@ struct BridgeMemberCounts {
     U16 members; // of all NPs together
     U16 pw_over_bvi_members;
 
-    void to_host() { l2fib::to_host(members, pw_over_bvi_members); }
+    using R = BridgeMemberCounts;
+    using Fields = l2fib::Fields<&R::members, &R::pw_over_bvi_members>;
 };
 static_assert(sizeof(BridgeMemberCounts) == 4);
-
-/// Prints the HAL's context of a bridge whose RP context is in host order, and then what the NPs hold. Statuses: 0,
-/// L2FIB_SHOW_ERR_ARGS, L2FIB_SHOW_ERR_DATA, L2FIB_SHOW_ERR_NOMEM.
-std::uint32_t print_bridge_with_hal_context(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
-
-/// The part of it that the NPs hold.
-std::uint32_t zel_l2fib_brg_print_handler(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
 
 } // namespace l2fib

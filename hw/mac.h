@@ -1,9 +1,7 @@
 // What the hardware holds for a MAC address of a bridge.
 #pragma once
 
-#include "common/output.h"
-#include "common/show_data.h"
-#include "rp/bridge_mac_context.h"
+#include "common/record.h"
 
 #include <cstddef>
 
@@ -29,16 +27,12 @@ struct MacEntry {
     U8 unread_49;
     U32 unread_50;
     U16 unread_54;
+
+    using R = MacEntry;
+    using Fields = l2fib::Fields<&R::flags, &R::xid, &R::bvi_tcam_index, &R::bd_learn_key, &R::xid_learn_key,
+                                 &R::learn_limit_count_index, &R::unread_24, &R::bmac, &R::esi, &R::ldi, &R::evpn_label,
+                                 &R::unread_46, &R::learned_vlan, &R::unread_49, &R::unread_50, &R::unread_54>;
 };
 static_assert(sizeof(MacEntry) == 56 && offsetof(MacEntry, learned_vlan) == 47);
-
-struct BridgeMacShowData {
-    BridgeMacContext context;
-    MacEntry entry; // 116
-};
-static_assert(sizeof(BridgeMacShowData) == 172);
-
-/// Prints a MAC address whose RP context is in host order. Statuses: 0, L2FIB_SHOW_ERR_ARGS, L2FIB_SHOW_ERR_DATA.
-std::uint32_t zel_l2fib_mac_print_handler(Output &out, std::uint32_t level, ShowData data);
 
 } // namespace l2fib

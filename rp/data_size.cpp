@@ -17,13 +17,13 @@ struct ContextSize {
 
 static constexpr ContextSize context_sizes[] = {
     {L2FIB_OBJTYPE_AC, sizeof(AcContext), np_entry_size},
-    {L2FIB_OBJTYPE_MPLS, sizeof(PwContext), 0},
+    {L2FIB_OBJTYPE_MPLS, sizeof(PwShowData), 0},
     {L2FIB_OBJTYPE_PBB_PORT, 25, 0},
     {L2FIB_OBJTYPE_VNI, 72, 0},
     {L2FIB_OBJTYPE_L2TP_SESSION, 120, 0},
-    {L2FIB_OBJTYPE_BRIDGE, sizeof(BridgeContext), np_entry_size},
+    {L2FIB_OBJTYPE_BRIDGE, sizeof(BridgeContext) + sizeof(BridgeHalContext), np_entry_size},
     {L2FIB_OBJTYPE_BRIDGE_PORT, sizeof(BridgePortContext), 0},
-    {L2FIB_OBJTYPE_BRIDGE_MAC, sizeof(BridgeMacContext), 0},
+    {L2FIB_OBJTYPE_BRIDGE_MAC, sizeof(BridgeMacShowData), 0},
     {L2FIB_OBJTYPE_BRIDGE_MAIN_PORT, 412, 0},
     {L2FIB_OBJTYPE_DHCP, 48, 0},
     {L2FIB_OBJTYPE_EVPN_MCAST_OLE, 96, 0},

@@ -1,0 +1,39 @@
+// Turning numbers round.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+namespace l2fib
+{
+
+static_assert(std::endian::native == std::endian::little, "a number of the show data is turned round to be read");
+
+template <class Integer>
+constexpr Integer byte_swapped(Integer value)
+{
+    if constexpr (sizeof value == 8) {
+        return static_cast<Integer>(__builtin_bswap64(static_cast<std::uint64_t>(value)));
+    } else if constexpr (sizeof value == 4) {
+        return static_cast<Integer>(__builtin_bswap32(static_cast<std::uint32_t>(value)));
+    } else if constexpr (sizeof value == 2) {
+        return static_cast<Integer>(__builtin_bswap16(static_cast<std::uint16_t>(value)));
+    } else {
+        return value;
+    }
+}
+
+/// The bits of a word, from the other end.
+template <class Word>
+constexpr Word bits_reversed(Word word)
+{
+    constexpr Word pairs = static_cast<Word>(0x3333333333333333);
+    constexpr Word nibbles = static_cast<Word>(0x0f0f0f0f0f0f0f0f);
+    constexpr Word bits = static_cast<Word>(0x5555555555555555);
+    word = static_cast<Word>((word >> 1 & bits) | (word & bits) << 1);
+    word = static_cast<Word>((word >> 2 & pairs) | (word & pairs) << 2);
+    word = static_cast<Word>((word >> 4 & nibbles) | (word & nibbles) << 4);
+    return byte_swapped(word);
+}
+
+} // namespace l2fib

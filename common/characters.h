@@ -1,0 +1,29 @@
+// Characters one after the other, where there is room for them.
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+
+namespace l2fib
+{
+
+/// Bytes that fill() may write past its end.
+constexpr std::size_t fill_slack = 16;
+
+/// Copies `size` bytes. Returns the end.
+[[gnu::always_inline]] inline char *copy(char *to, const char *from, std::size_t size)
+{
+    std::memcpy(to, from, size);
+    return to + size;
+}
+
+/// Fills `size` bytes, and some more after them. Returns the end.
+inline char *fill(char *to, char with, std::size_t size)
+{
+    for (std::size_t done = 0; done < size; done += fill_slack) {
+        std::memset(to + done, with, fill_slack);
+    }
+    return to + size;
+}
+
+} // namespace l2fib

@@ -1,0 +1,40 @@
+// The front door: where a show client's request for an object comes in.
+#include "common/entry/card.h"
+#include "common/entry/hal_table.h"
+#include "common/entry/rp_door.h"
+
+namespace l2fib
+{
+
+constexpr Literal front_door = "zel_l2fib_print_internal";
+
+/// Show data that ends inside the RP context stops here; the views trust their callers with that much.
+static std::uint32_t show_checked(Output &out, ViewKind view, const ViewRequest &request)
+{
+    const ShowData data = request.data();
+    const std::uint64_t end = data.is_null() ? 0 : context_end(view, request);
+    if (data.size() < end) {
+        out.text("\n%s: data_size is %zd, expecting at least %zd", front_door, data.size(), end);
+        return L2FIB_SHOW_ERR_DATA;
+    }
+    return view == ViewKind::private_context ? show_private(out, request) : show_detail(out, request);
+}
+
+static std::uint32_t show_object(Output &out, const ViewRequest &request)
+{
+    fill_hal_table();
+    if (!check_card(out, request.node_id)) {
+        return 0;
+    }
+    const ViewKind view = selected_view(request.view_flags);
+    return view == ViewKind::inconsistency ? show_inconsistency(out, request) : show_checked(out, view, request);
+}
+
+} // namespace l2fib
+
+uint32_t zel_l2fib_print_internal(uint32_t objtype, uint32_t node_id, uint32_t direction, uint32_t view_flags,
+                                  uint8_t *show_data, uint64_t size)
+{
+    l2fib::Output out;
+    return l2fib::show_object(out, {objtype, node_id, direction, view_flags, show_data, size});
+}

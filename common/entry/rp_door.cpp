@@ -1,0 +1,150 @@
+// The way of a request through the RP's views: what each object shows there, and the hand-over to the hardware's part.
+#include "common/entry/rp_door.h"
+
+#include "common/entry/card.h"
+#include "common/entry/hal_table.h"
+#include "common/failure.h"
+#include "common/objtype.h"
+#include "common/tlv.h"
+#include "rp/detail.h"
+#include "rp/private.h"
+
+#include <optional>
+
+namespace l2fib
+{
+
+constexpr Literal detail_view = "zel_l2fib_print_internal_detail";
+constexpr Literal private_view = "zel_l2fib_print_internal_private";
+constexpr Literal inconsistency_view = "zel_l2fib_print_internal_inconsistent";
+
+/// One object type. A view that is null has nothing of the RP's to show.
+struct RpObject {
+    std::uint32_t objtype;
+    const DetailView *detail;
+    const PrivateView *private_context;
+    std::uint32_t level; ///< at which the hardware's part is printed
+};
+
+static constexpr RpObject rp_objects[] = {
+    {L2FIB_OBJTYPE_AC, &ac_detail, &ac_private, 1},
+    {L2FIB_OBJTYPE_MPLS, &pw_detail, &pw_private, 1},
+    {L2FIB_OBJTYPE_NHOP, nullptr, &next_hop_private, 1},
+    {L2FIB_OBJTYPE_BRIDGE, &bridge_detail, &bridge_private, 2},
+    {L2FIB_OBJTYPE_BRIDGE_PORT, &bridge_port_detail, nullptr, 2},
+    {L2FIB_OBJTYPE_BRIDGE_MAC, &bridge_mac_detail, nullptr, 1},
+};
+
+static const RpObject *rp_object(std::uint32_t objtype)
+{
+    for (const RpObject &object : rp_objects) {
+        if (object.objtype == objtype) {
+            return &object;
+        }
+    }
+    return nullptr;
+}
+
+/// The status with which a view ends before it has begun; none when it can begin.
+static std::optional<std::uint32_t> refusal(Output &out, const Literal &view, const ViewRequest &request)
+{
+    if (request.show_data == nullptr) {
+        return null_show_data(out, view, request.objtype);
+    }
+    return check_card(out, request.node_id) ? std::nullopt : std::optional<std::uint32_t>{0};
+}
+
+std::uint32_t show_detail(Output &out, const ViewRequest &request)
+{
+    if (const auto status = refusal(out, detail_view, request)) {
+        return *status;
+    }
+    if (request.objtype == L2FIB_OBJTYPE_MCAST_LEAF) {
+        return 0; // known, and nothing to show
+    }
+    const RpObject *object = rp_object(request.objtype);
+    if (object == nullptr) {
+        return wrong_objtype(out, detail_view, request.objtype);
+    }
+    if (object->detail != nullptr) {
+        object->detail->print(out, request.direction, request.show_data);
+    }
+    const std::uint32_t status = hand_over(out, object->level, request);
+    out.text("\n");
+    return status;
+}
+
+std::uint32_t show_private(Output &out, const ViewRequest &request)
+{
+    if (const auto status = refusal(out, private_view, request)) {
+        return *status;
+    }
+    const RpObject *object = rp_object(request.objtype);
+    if (object == nullptr || object->private_context == nullptr) { // some are the hardware's alone
+        out.line(1);
+        wrong_objtype(out, private_view, request.objtype);
+        return hand_over(out, 1, request);
+    }
+    object->private_context->print(out, request.show_data);
+    return hand_over(out, object->level, request);
+}
+
+/// The RP's report on an object, then the hardware's.
+std::uint32_t show_inconsistency(Output &out, const ViewRequest &request)
+{
+    if (!card_is_supported(request.node_id)) {
+        out.text("Unsupported card type: NONE");
+        return 0;
+    }
+    if (request.objtype != L2FIB_OBJTYPE_AC) {
+        out.line(1, "Platform object %s not handled", objtype_name(request.objtype));
+        return 0;
+    }
+    if (request.show_data == nullptr && request.size != 0) {
+        return null_show_data(out, inconsistency_view, request.objtype);
+    }
+    out.text("\n");
+    ShowData report = request.data();
+    if (const std::uint32_t status = print_report(out, 1, report); status != 0) {
+        return status;
+    }
+    ViewRequest rest = request;
+    rest.show_data = report.bytes();
+    rest.size = report.size();
+    return hand_over(out, 1, rest);
+}
+
+std::uint64_t context_end(ViewKind view, const ViewRequest &request)
+{
+    const RpObject *object = rp_object(request.objtype);
+    if (object == nullptr) {
+        return 0;
+    }
+    if (view == ViewKind::private_context) {
+        return object->private_context == nullptr ? 0 : object->private_context->context_end(request.data());
+    }
+    return object->detail == nullptr ? 0 : object->detail->context_end(request.data());
+}
+
+} // namespace l2fib
+
+uint32_t zel_l2fib_print_internal_detail(uint32_t objtype, uint32_t node_id, uint32_t direction, uint32_t view_flags,
+                                         uint8_t *show_data, uint64_t size)
+{
+    l2fib::Output out;
+    return l2fib::show_detail(out, {objtype, node_id, direction, view_flags, show_data, size});
+}
+
+uint32_t zel_l2fib_print_internal_private(uint32_t objtype, uint32_t node_id, uint32_t direction, uint32_t view_flags,
+                                          uint8_t *show_data, uint64_t size)
+{
+    l2fib::Output out;
+    return l2fib::show_private(out, {objtype, node_id, direction, view_flags, show_data, size});
+}
+
+uint32_t zel_l2fib_print_internal_inconsistent(uint32_t objtype, uint32_t node_id, uint32_t direction,
+                                               uint32_t view_flags, uint8_t *show_data, uint64_t size)
+{
+    l2fib::Output out;
+    return l2fib::show_inconsistency(out, {objtype, node_id, direction, view_flags, show_data, size});
+}

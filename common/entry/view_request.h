@@ -1,0 +1,43 @@
+// What a show client asks for.
+#pragma once
+
+#include "common/show_data.h"
+#include "zel_l2fib/show.h"
+
+namespace l2fib
+{
+
+/// The arguments of every view of an object.
+struct ViewRequest {
+    std::uint32_t objtype;
+    std::uint32_t node_id;
+    std::uint32_t direction;
+    std::uint32_t view_flags;
+    std::uint8_t *show_data;
+    std::uint64_t size;
+
+    [[nodiscard]] ShowData data() const { return {show_data, size}; }
+};
+
+enum class ViewKind : std::uint8_t { none, detail, private_context, inconsistency };
+
+/// The view that the flags select: of several the strongest.
+constexpr ViewKind selected_view(std::uint32_t view_flags)
+{
+    constexpr struct {
+        std::uint32_t flag;
+        ViewKind view;
+    } by_strength[] = {
+        {L2FIB_VIEW_INCONSISTENT, ViewKind::inconsistency},
+        {L2FIB_VIEW_PRIVATE, ViewKind::private_context},
+        {L2FIB_VIEW_DETAIL, ViewKind::detail},
+    };
+    for (const auto &row : by_strength) {
+        if ((view_flags & row.flag) != 0) {
+            return row.view;
+        }
+    }
+    return ViewKind::none;
+}
+
+} // namespace l2fib

@@ -1,0 +1,138 @@
+// Words of packed bit-fields.
+#pragma once
+
+#include "common/number.h"
+
+#include <algorithm>
+
+namespace l2fib
+{
+
+/// `count` neighbouring fields of a packed word, each `width` bits wide.
+struct FieldRun {
+    unsigned count;
+    unsigned width;
+};
+
+constexpr FieldRun one_bit(unsigned count)
+{
+    return {count, 1};
+}
+constexpr FieldRun wide(unsigned width)
+{
+    return {1, width};
+}
+
+/// A word of packed bit-fields, described in the producer's order, for example FlagWord<one_bit(23), wide(9)>. Like a
+/// Number, it is converted together with its record.
+///
+/// The producer fills the big-endian word from its most significant bit downwards; the host fills its word from the
+/// least significant bit upwards. Fields keep their values and their order, and are numbered from 0. Where they end
+/// before the word does, the bytes after them are no part of it and stay as received.
+template <class Word, FieldRun... runs>
+class Packed
+{
+    static constexpr unsigned word_width = 8 * sizeof(Word);
+    static constexpr unsigned used_width = ((runs.count * runs.width) + ...);
+    static_assert(used_width <= word_width);
+
+    static constexpr unsigned field_count = (runs.count + ...);
+
+    struct Field {
+        unsigned start; // in the host's word
+        unsigned width;
+    };
+
+    static constexpr std::array<Field, field_count> layout = [] {
+        std::array<Field, field_count> fields{};
+        unsigned next = 0;
+        unsigned start = 0;
+        for (const FieldRun run : {runs...}) {
+            for (unsigned i = 0; i < run.count; ++i) {
+                fields[next++] = {start, run.width};
+                start += run.width;
+            }
+        }
+        return fields;
+    }();
+
+    static constexpr auto wide_fields = [] {
+        std::array<Field, ((runs.width == 1 ? 0 : runs.count) + ...)> fields{};
+        std::copy_if(layout.begin(), layout.end(), fields.begin(), [](Field field) { return field.width != 1; });
+        return fields;
+    }();
+
+    static constexpr Word mask(Field field)
+    {
+        return static_cast<Word>(static_cast<Word>(~Word{0}) >> (word_width - field.width));
+    }
+
+public:
+    /// All of the word, once it is converted.
+    [[nodiscard]] constexpr Word word() const { return std::bit_cast<Word>(bytes); }
+
+    [[nodiscard]] constexpr Word get(unsigned field) const
+    {
+        return static_cast<Word>(word() >> layout[field].start) & mask(layout[field]);
+    }
+    [[nodiscard]] constexpr bool test(unsigned field) const { return get(field) != 0; }
+
+    /// All at once: a bit for each field, set where the field is not zero.
+    [[nodiscard]] constexpr std::uint32_t set_flags() const
+    {
+        std::uint32_t set = 0;
+        unsigned field = 0;
+        const auto add = [&](FieldRun run) {
+            if (run.width == 1) {
+                const Field all{layout[field].start, run.count};
+                set |= static_cast<std::uint32_t>(word() >> all.start & mask(all)) << field;
+                field += run.count;
+                return;
+            }
+            for (const unsigned end = field + run.count; field < end; ++field) {
+                set |= std::uint32_t{test(field)} << field;
+            }
+        };
+        (add(runs), ...);
+        return set;
+    }
+
+    constexpr void to_host()
+    {
+        // Turned round, every field is where the host has it; those of several bits are then the wrong way round.
+        Word host = bits_reversed(byte_swapped(word()));
+        for (const Field field : wide_fields) {
+            const auto turned = static_cast<Word>(static_cast<Word>(host >> field.start) & mask(field));
+            const auto value = static_cast<Word>(bits_reversed(turned) >> (word_width - field.width));
+            host = static_cast<Word>((host & ~static_cast<Word>(mask(field) << field.start)) | value << field.start);
+        }
+        const auto host_bytes = std::bit_cast<decltype(bytes)>(host);
+        std::copy_n(host_bytes.begin(), (used_width + 7) / 8, bytes.begin());
+    }
+
+    /// The big-endian bits of a field that holds `value`: how a producer sets it.
+    static constexpr Word wire_bits(unsigned field, Word value)
+    {
+        const unsigned wire_start = word_width - layout[field].width - layout[field].start;
+        return static_cast<Word>((value & mask(layout[field])) << wire_start);
+    }
+
+    Bytes<sizeof(Word)> bytes;
+};
+
+template <FieldRun... runs>
+using FlagWord = Packed<std::uint32_t, runs...>;
+template <FieldRun... runs>
+using FlagByte = Packed<std::uint8_t, runs...>;
+
+/// A flag word of a hardware record. The hardware's documents number its flags by their bit of the big-endian word, 31
+/// as the top bit, and so does this.
+template <FieldRun... runs>
+class HardwareFlags : public FlagWord<runs...>
+{
+public:
+    [[nodiscard]] constexpr bool test(unsigned bit) const { return (this->word() >> (31 - bit) & 1U) != 0; }
+    [[nodiscard]] constexpr std::uint32_t set_flags() const { return bits_reversed(this->word()); }
+};
+
+} // namespace l2fib

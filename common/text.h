@@ -1,0 +1,23 @@
+// Texts that a formatter makes.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace l2fib
+{
+
+/// A text made for one item of output.
+struct Text {
+    static constexpr std::size_t capacity = 64;
+
+    Text() = default;
+    Text(std::string_view text) : size(text.copy(chars, capacity)) {}
+
+    [[nodiscard]] std::string_view view() const { return {chars, size}; }
+
+    char chars[capacity];
+    std::size_t size = 0;
+};
+
+} // namespace l2fib

@@ -1,0 +1,22 @@
+// What the hardware holds for each kind of object. The RP context at the beginning of the show data is in host order:
+// the RP's views have converted it. A failure is reported on the screen, and its status returned.
+#pragma once
+
+#include "common/output.h"
+#include "common/show_data.h"
+
+namespace l2fib
+{
+
+std::uint32_t show_ac(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
+std::uint32_t show_pw(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
+std::uint32_t show_bridge(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
+std::uint32_t show_mac(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
+std::uint32_t show_resources(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
+
+/// Says that an object's part could not be printed; the line of some is ended, and of others left open. Returns the
+/// status, and says nothing of status 0.
+std::uint32_t report_failure(Output &out, std::uint32_t level, const Literal &view, std::uint32_t objtype,
+                             std::uint32_t status, const Literal &line_end = "");
+
+} // namespace l2fib
