@@ -45,10 +45,13 @@ static constexpr Choice direction_table[] = {
 static constexpr const Choice *detail = &view_table[0];
 static constexpr const Choice *private_view = &view_table[1];
 
+constexpr std::size_t ac_xid = offsetof(AcShowData, context) + offsetof(AcContext, xid);
+constexpr std::size_t bridge_xid = offsetof(BridgeShowData, context) + offsetof(BridgeContext, bvi_xid);
+
 static constexpr Object object_table[] = {
-    {"ac", "attachment circuit", L2FIB_OBJTYPE_AC, detail, show_object, offsetof(AcShowData, context.xid)},
+    {"ac", "attachment circuit", L2FIB_OBJTYPE_AC, detail, show_object, ac_xid},
     {"pw", "pseudowire", L2FIB_OBJTYPE_MPLS, detail, show_object, offsetof(PwContext, xid)},
-    {"bridge", "bridge", L2FIB_OBJTYPE_BRIDGE, detail, show_object, offsetof(BridgeShowData, context.bvi_xid)},
+    {"bridge", "bridge", L2FIB_OBJTYPE_BRIDGE, detail, show_object, bridge_xid},
     {"bridge-port", "bridge port", L2FIB_OBJTYPE_BRIDGE_PORT, detail, show_object, offsetof(BridgePortContext, pi_xid)},
     {"mac", "MAC address of a bridge", L2FIB_OBJTYPE_BRIDGE_MAC, detail, show_object},
     {"nhop", "next hop", L2FIB_OBJTYPE_NHOP, private_view, show_object},
@@ -60,12 +63,12 @@ static constexpr Object object_table[] = {
 
 std::optional<std::uint32_t> Object::xid(std::span<const std::uint8_t> show_data) const
 {
-    U32 xid;
+    BigU32 xid;
     if (xid_offset == 0 || show_data.size() < xid_offset + xid.bytes.size()) {
         return std::nullopt;
     }
     std::copy_n(show_data.data() + xid_offset, xid.bytes.size(), xid.bytes.begin());
-    return xid.from_wire();
+    return xid.value();
 }
 
 std::span<const Object> objects()

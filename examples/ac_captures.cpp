@@ -1,7 +1,7 @@
 // Attachment circuits: one of a bridge domain, seen from both sides, and one of a local switch.
 #include "examples/captures.h"
 #include "examples/show_data_builder.h"
-#include "hw/ac_handler.h"
+#include "hw/plain_ac.h"
 #include "hw/vpls_ac.h"
 #include "rp/names.h"
 #include "zel_l2fib/show.h"
@@ -18,8 +18,8 @@ constexpr std::uint32_t bridge_domain = 12;
 static AcShowData vpls_ac()
 {
     AcShowData data{};
-    set(data.np_count, np_count);
-    AcContext &ac = data.context;
+    set(data.np_count.count, np_count);
+    AcContext &ac = data.context.to_compose();
     set(ac.service, service_vpls);
     set(ac.state, state_bound);
     set(ac.ifhandle, vpls_ifhandle);
@@ -29,7 +29,7 @@ static AcShowData vpls_ac()
     set(ac.mac_limit, 4000);
     set_flags(ac.flags, {AcContext::is_lag, AcContext::dhcp_snoop, AcContext::igmp_snoop,
                          AcContext::storm_control_bcast, AcContext::storm_control_ucast});
-    set_as_stored(ac.requested_np, all_nps);
+    set(ac.requested_np, all_nps);
     return data;
 }
 
@@ -94,13 +94,13 @@ static UidbEntry uidb_entry()
 static VplsNpRecord np_record(unsigned np)
 {
     VplsNpRecord record{};
-    record.xid = vpls_xid_entry(np == 0 ? XidEntry::type_bundle : XidEntry::type_ac);
+    record.xid = as_sent(vpls_xid_entry(np == 0 ? XidEntry::type_bundle : XidEntry::type_ac));
     if (np < np_count - 1U) {
-        set_as_stored(record.bports_present, 1);
-        record.bports[0] = bport(3, false);
-        record.bports[1] = bport(4, true);
+        set(record.bports_present, 1);
+        record.bports[0] = as_sent(bport(3, false));
+        record.bports[1] = as_sent(bport(4, true));
     }
-    record.uidb = uidb_entry();
+    record.uidb = as_sent(uidb_entry());
     return record;
 }
 
@@ -128,14 +128,14 @@ static BridgePortContext bridge_port()
               {FeatureFlags::storm_control_broadcast, FeatureFlags::storm_control_unknown_unicast});
     set(port.broadcast_rate, 640);
     set(port.unknown_unicast_rate, 1024);
-    set_as_stored(port.storm_control_unit, BridgePortContext::storm_control_in_kbps);
+    set(port.storm_control_unit, BridgePortContext::storm_control_in_kbps);
     for (unsigned np = 0; np < np_count; ++np) {
         const std::uint32_t statuses[] = {configured, disabled, configured};
         for (unsigned type = 0; type < storm_traffic_types; ++type) {
-            StormControlState::Traffic &traffic = port.storm_control[np].traffic[type];
-            set_as_stored(traffic.profile.word, (0x21 + type) << 8);
-            set_as_stored(traffic.token_bucket_id, 0x4100 + 0x10 * np + type);
-            set_as_stored(traffic.status, statuses[type]);
+            StormControlTraffic &traffic = port.storm_control[np].to_compose().traffic[type];
+            set_converted(traffic.profile, (0x21 + type) << 8);
+            set_converted(traffic.token_bucket_id, 0x4100 + 0x10 * np + type);
+            set_converted(traffic.status, statuses[type]);
         }
     }
     return port;
@@ -144,12 +144,12 @@ static BridgePortContext bridge_port()
 std::vector<std::uint8_t> make_vpls_ac_ingress()
 {
     VplsIngressBlock block{};
-    set(block.np_count, np_count);
-    block.port = bridge_port();
+    set(block.np_count.to_compose().count, np_count);
+    block.port = as_sent(bridge_port());
     ShowDataBuilder builder;
     builder.add(vpls_ac()).add_zeros(np_count * np_entry_size).add(block);
     for (unsigned np = 0; np < np_count; ++np) {
-        builder.add(VplsIngressNpRecord{np_record(np), storm_control_profile()});
+        builder.add(VplsIngressNpRecord{np_record(np), as_sent(storm_control_profile())});
     }
     return builder.add(VplsIngressTrailer{}).bytes();
 }
@@ -157,7 +157,7 @@ std::vector<std::uint8_t> make_vpls_ac_ingress()
 std::vector<std::uint8_t> make_vpls_ac_egress()
 {
     VplsEgressBlock block{};
-    set(block.np_count, np_count);
+    set(block.np_count.to_compose().count, np_count);
     ShowDataBuilder builder;
     builder.add(vpls_ac()).add_zeros(np_count * np_entry_size).add(block);
     for (unsigned np = 0; np < np_count; ++np) {
@@ -175,12 +175,13 @@ std::vector<std::uint8_t> make_vpls_ac_private()
 std::vector<std::uint8_t> make_local_switch_ac()
 {
     AcShowData data{};
-    set(data.np_count, 2);
-    set(data.context.service, service_local_switch);
-    set(data.context.state, state_bound);
-    set(data.context.xid, 0x00340007);
-    set_flags(data.context.flags, {AcContext::remote_is_simple_ac, AcContext::mac_learn_disable});
-    set_as_stored(data.context.requested_np, all_nps);
+    set(data.np_count.count, 2);
+    AcContext &ac = data.context.to_compose();
+    set(ac.service, service_local_switch);
+    set(ac.state, state_bound);
+    set(ac.xid, 0x00340007);
+    set_flags(ac.flags, {AcContext::remote_is_simple_ac, AcContext::mac_learn_disable});
+    set(ac.requested_np, all_nps);
 
     XidEntry entry{};
     set(entry.type, XidEntry::type_ac);

@@ -1,12 +1,13 @@
 // A bridge domain with a BVI and storm control, seen from both sides; one of its ports; two of its MAC addresses.
 #include "examples/captures.h"
 #include "examples/show_data_builder.h"
+#include "hw/bridge.h"
 #include "hw/bridge_domain.h"
-#include "hw/bridge_handler.h"
 #include "hw/bridge_member.h"
-#include "hw/mac_handler.h"
+#include "hw/mac.h"
 #include "hw/storm_control.h"
 #include "rp/bridge_context.h"
+#include "rp/bridge_mac_context.h"
 #include "rp/bridge_port_context.h"
 #include "rp/names.h"
 #include "zel_l2fib/show.h"
@@ -21,8 +22,8 @@ constexpr std::uint16_t members_of_np[np_count] = {2, 0, 1};
 static BridgeShowData bridge_show_data()
 {
     BridgeShowData data{};
-    set(data.np_count, np_count);
-    BridgeContext &bridge = data.context;
+    set(data.np_count.count, np_count);
+    BridgeContext &bridge = data.context.to_compose();
     set(bridge.state, state_bound);
     set(bridge.bridge_id, bridge_domain);
     set(bridge.mac_limit, 4000);
@@ -36,17 +37,17 @@ static BridgeShowData bridge_show_data()
     set(bridge.bvi_ifhandle, 0x080000c0);
     set(bridge.bvi_xid, 0x00ff0001);
     set_flags(bridge.flags, {BridgeContext::evpn_statistics_pointer, BridgeContext::next_hop_has_bvi});
-    set_as_stored(bridge.hal.flags, 1U << BridgeHalContext::bvi_configured);
-    set_as_stored(bridge.hal.learn_key, 7);
+    set(data.hal.flags, 1U << BridgeHalContext::bvi_configured);
+    set(data.hal.learn_key, 7);
     return data;
 }
 
 static BridgeHalNpEntry hal_np_entry(unsigned np)
 {
     BridgeHalNpEntry entry{};
-    set_as_stored(entry.mac_limit_counter_index, 0x2010 + np);
-    set_as_stored(entry.shg_members[0], members_of_np[np]);
-    set_as_stored(entry.irl_shg0_bound_members, 1);
+    set(entry.mac_limit_counter_index, 0x2010 + np);
+    set(entry.shg_members[0], members_of_np[np]);
+    set(entry.irl_shg0_bound_members, 1);
     return entry;
 }
 
@@ -71,7 +72,7 @@ static StormControlState storm_control_state()
     constexpr std::uint32_t configured = 3;
     StormControlState state{};
     for (const unsigned type : {0U, 1U}) {
-        set_field(state.traffic[type].profile, StormControlState::profile_index, 0x21 + type);
+        set_field(state.traffic[type].profile, StormControlTraffic::profile_index, 0x21 + type);
         set(state.traffic[type].token_bucket_id, 0x4200 + type);
         set(state.traffic[type].status, configured);
     }
@@ -192,41 +193,49 @@ std::vector<std::uint8_t> make_bridge_port()
     return ShowDataBuilder{}.add(port).bytes();
 }
 
-static BridgeMacShowData mac_show_data(const Bytes<6> &address)
+static BridgeMacShowData mac_show_data(const Bytes<6> &address, std::initializer_list<unsigned> flags)
 {
     BridgeMacShowData data{};
-    set(data.context.version, 4);
-    set(data.context.state, state_bound);
-    set(data.context.bridge_id, bridge_domain);
-    data.context.mac = address;
-    set(data.context.bridge_learn_key, 7);
-    set(data.context.port_learn_key, 9);
-    set(data.entry.bd_learn_key, 7);
-    set(data.entry.xid_learn_key, 9);
+    BridgeMacContext &mac = data.context.to_compose();
+    set(mac.version, 4);
+    set(mac.state, state_bound);
+    set_flags(mac.flags, flags);
+    set(mac.bridge_id, bridge_domain);
+    mac.mac = address;
+    set(data.platform.to_compose().bridge_learn_key, 7);
+    set(data.platform.to_compose().port_learn_key, 9);
     return data;
+}
+
+static MacEntry mac_entry(std::initializer_list<unsigned> flags)
+{
+    MacEntry entry{};
+    set_flags(entry.flags, flags);
+    set(entry.bd_learn_key, 7);
+    set(entry.xid_learn_key, 9);
+    return entry;
 }
 
 std::vector<std::uint8_t> make_evpn_mac()
 {
-    BridgeMacShowData data = mac_show_data({0x02, 0x11, 0x22, 0x33, 0x44, 0x55});
-    set_flags(data.context.flags, {BridgeMacContext::evpn});
-    set_flags(data.entry.flags, {MacEntry::remote_mac, 29});
-    data.entry.bmac = {0x02, 0xaa, 0xbb, 0xcc, 0xdd, 0xee};
-    set(data.entry.esi, 3);
-    set(data.entry.ldi, 0x1f);
-    set(data.entry.evpn_label, 24100);
-    return ShowDataBuilder{}.add(data).bytes();
+    MacEntry entry = mac_entry({MacEntry::remote_mac, 29});
+    entry.bmac = {0x02, 0xaa, 0xbb, 0xcc, 0xdd, 0xee};
+    set(entry.esi, 3);
+    set(entry.ldi, 0x1f);
+    set(entry.evpn_label, 24100);
+    ShowDataBuilder builder;
+    builder.add(mac_show_data({0x02, 0x11, 0x22, 0x33, 0x44, 0x55}, {BridgeMacContext::evpn})).add(entry);
+    return builder.bytes();
 }
 
 std::vector<std::uint8_t> make_local_mac()
 {
-    BridgeMacShowData data = mac_show_data({0x02, 0x11, 0x22, 0x33, 0x44, 0x66});
-    set_flags(data.context.flags, {BridgeMacContext::alive_check});
-    set(data.context.xid, 0x00340003);
-    set_flags(data.entry.flags, {25, 21});
-    set(data.entry.xid, 0x00340003);
-    set(data.entry.learned_vlan, 100);
-    return ShowDataBuilder{}.add(data).bytes();
+    BridgeMacShowData data = mac_show_data({0x02, 0x11, 0x22, 0x33, 0x44, 0x66}, {BridgeMacContext::alive_check});
+    set(data.forwarding.to_compose().xid, 0x00340003);
+    MacEntry entry = mac_entry({25, 21});
+    set(entry.xid, 0x00340003);
+    set(entry.learned_vlan, 100);
+    return ShowDataBuilder{}.add(data).add(entry).bytes();
 }
 
 } // namespace l2fib

@@ -1,16 +1,17 @@
 // Pseudowires: a point-to-point one, and one of a bridge domain whose path is a LAG with a backup.
 #include "examples/captures.h"
 #include "examples/show_data_builder.h"
-#include "hw/pw_handler.h"
+#include "hw/pw.h"
+#include "hw/storm_control.h"
 #include "rp/names.h"
 
 namespace l2fib
 {
 
-static PwShowData pw_show_data(std::uint32_t service, std::uint32_t xid, std::uint32_t np_count)
+static PwHardwareShowData pw_show_data(std::uint32_t service, std::uint32_t xid, std::uint32_t np_count)
 {
-    PwShowData data{};
-    PwContext &pw = data.context;
+    PwHardwareShowData data{};
+    PwContext &pw = data.rp.context.to_compose();
     set(pw.service, service);
     set(pw.state, state_bound);
     set(pw.xid, xid);
@@ -19,7 +20,7 @@ static PwShowData pw_show_data(std::uint32_t service, std::uint32_t xid, std::ui
     set(pw.disp_vc_label, 24017);
     set(pw.nr_ldi_hash, 0x1f);
     set(pw.r_ldi_hash, 0x2c);
-    set(pw.port_learn_key, 9);
+    set(data.rp.platform.to_compose().port_learn_key, 9);
     set_flags(pw.flags, {PwContext::control_word, PwContext::inband_vccv});
     set(data.np_count, np_count);
     return data;
@@ -47,8 +48,8 @@ std::vector<std::uint8_t> make_point_to_point_pw()
     for (std::uint32_t np = 0; np < np_count; ++np) {
         PwNpRecord record{};
         set(record.np, np);
-        record.xid = pw_xid_entry();
-        set(record.xid.remote_type, XidEntry::type_ac);
+        record.xid = as_sent(pw_xid_entry());
+        set(record.xid.to_compose().remote_type, XidEntry::type_ac);
         builder.add(record);
     }
     return builder.bytes();
@@ -57,25 +58,27 @@ std::vector<std::uint8_t> make_point_to_point_pw()
 static PwIngressBlock ingress_block()
 {
     PwIngressBlock block{};
-    set(block.port.slot_mask[0], 0x21);
-    set(block.port.slot_mask[1], 0x02);
-    set(block.port.np_flood_mask, 0x0003);
-    set_flags(block.paths.state.flags, {PathState::backup_valid});
-    set_flags(block.paths.primary.flags, {PathDescriptor::lag, PathDescriptor::ifhandle_valid});
-    set(block.paths.primary.sfp_or_lagid, 0x0040);
-    set(block.paths.primary.ifhandle, 0x08000060);
-    set_flags(block.paths.backup.flags, {PathDescriptor::ifhandle_valid});
-    set(block.paths.backup.sfp_or_lagid, 0x0112);
-    set(block.paths.backup.ifhandle, 0x080000a0);
+    BridgePortContext &port = block.port.to_compose();
+    set(port.slot_mask[0], 0x21);
+    set(port.slot_mask[1], 0x02);
+    set(port.np_flood_mask, 0x0003);
+    Layer3Paths &paths = block.paths.to_compose();
+    set_flags(paths.state.flags, {PathState::backup_valid});
+    set_flags(paths.primary.flags, {PathDescriptor::lag, PathDescriptor::ifhandle_valid});
+    set(paths.primary.sfp_or_lagid, 0x0040);
+    set(paths.primary.ifhandle, 0x08000060);
+    set_flags(paths.backup.flags, {PathDescriptor::ifhandle_valid});
+    set(paths.backup.sfp_or_lagid, 0x0112);
+    set(paths.backup.ifhandle, 0x080000a0);
     return block;
 }
 
 std::vector<std::uint8_t> make_vpls_pw_ingress()
 {
     constexpr std::uint32_t np_count = 2;
-    PwShowData data = pw_show_data(service_vpls, 0x00380005, np_count);
-    set(data.context.bridge_id, 12);
-    set(data.context.shg, 1);
+    PwHardwareShowData data = pw_show_data(service_vpls, 0x00380005, np_count);
+    set(data.rp.context.to_compose().bridge_id, 12);
+    set(data.rp.context.to_compose().shg, 1);
 
     XidEntry entry = pw_xid_entry();
     set_flags(entry.flags, {XidEntry::vpls});

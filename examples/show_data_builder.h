@@ -1,7 +1,7 @@
-// Composes show data as the producer does: big-endian, field by field.
+// Composes show data as the producer does: field by field, each in the byte order that its type has.
 #pragma once
 
-#include "common/stored.h"
+#include "common/record.h"
 #include "hw/uidb_entry.h"
 
 #include <initializer_list>
@@ -10,29 +10,41 @@
 namespace l2fib
 {
 
-/// A number, big-endian.
 template <class Integer>
-void set(Stored<Integer> &field, std::type_identity_t<Integer> value)
+void set(Number<Integer> &field, std::type_identity_t<Integer> value)
+{
+    field.bytes = std::bit_cast<decltype(field.bytes)>(byte_swapped(value));
+}
+template <class Integer>
+void set(BigEndian<Integer> &field, std::type_identity_t<Integer> value)
+{
+    field.bytes = std::bit_cast<decltype(field.bytes)>(byte_swapped(value));
+}
+template <class Integer>
+void set(AsStored<Integer> &field, std::type_identity_t<Integer> value)
 {
     field.bytes = std::bit_cast<decltype(field.bytes)>(value);
-    field.to_host(); // turning round is its own opposite
 }
 
-/// A number in the byte order of the line card's own processor.
+/// A field of a record that is in host order already: as an earlier view left it, or as the line card stored it.
 template <class Integer>
-void set_as_stored(Stored<Integer> &field, std::type_identity_t<Integer> value)
+void set_converted(Number<Integer> &field, std::type_identity_t<Integer> value)
 {
     field.bytes = std::bit_cast<decltype(field.bytes)>(value);
+}
+template <class Word, FieldRun... runs>
+void set_converted(Packed<Word, runs...> &packed, std::type_identity_t<Word> word)
+{
+    packed.bytes = std::bit_cast<decltype(packed.bytes)>(word);
 }
 
 /// One field of a packed word.
 template <class Word, FieldRun... runs>
-void set_field(Packed<Word, runs...> &packed, unsigned field, typename Word::Value value)
+void set_field(Packed<Word, runs...> &packed, unsigned field, std::type_identity_t<Word> value)
 {
-    using Bits = typename Word::Value;
-    const auto others =
-        static_cast<Bits>(packed.word.from_wire() & ~packed.wire_bits(field, static_cast<Bits>(~Bits{0})));
-    set(packed.word, static_cast<Bits>(others | packed.wire_bits(field, value)));
+    const Word sent = byte_swapped(packed.word());
+    const auto others = static_cast<Word>(sent & ~packed.wire_bits(field, static_cast<Word>(~Word{0})));
+    set_converted(packed, byte_swapped(static_cast<Word>(others | packed.wire_bits(field, value))));
 }
 
 /// Flags of a packed word.
@@ -48,11 +60,11 @@ void set_flags(Packed<Word, runs...> &packed, std::initializer_list<unsigned> fi
 template <FieldRun... runs>
 void set_flags(HardwareFlags<runs...> &flags, std::initializer_list<unsigned> bits)
 {
-    std::uint32_t value = flags.word.from_wire();
+    std::uint32_t sent = byte_swapped(flags.word());
     for (const unsigned bit : bits) {
-        value |= std::uint32_t{1} << bit;
+        sent |= std::uint32_t{1} << bit;
     }
-    set(flags.word, value);
+    set_converted(flags, byte_swapped(sent));
 }
 
 inline void set_flags(UidbEntry &entry, std::initializer_list<UidbFlag> flags)
@@ -62,7 +74,16 @@ inline void set_flags(UidbEntry &entry, std::initializer_list<UidbFlag> flags)
     }
 }
 
-/// Records, one behind the other.
+/// A record as part of another one.
+template <class Record>
+Received<Record> as_sent(const Record &record)
+{
+    Received<Record> sent{};
+    sent.to_compose() = record;
+    return sent;
+}
+
+/// Records, one after the other.
 class ShowDataBuilder
 {
 public:

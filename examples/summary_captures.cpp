@@ -28,6 +28,12 @@ std::vector<std::uint8_t> make_state_summary()
     return ShowDataBuilder{}.add(summary).add_zeros(4).bytes();
 }
 
+/// The value of a number as the producer has it.
+static std::uint64_t sent(const U32 &number)
+{
+    return byte_swapped(number.value());
+}
+
 std::vector<std::uint8_t> make_event_statistics()
 {
     constexpr std::uint64_t ns_per_event = 37'500'000;
@@ -42,11 +48,11 @@ std::vector<std::uint8_t> make_event_statistics()
         set(count.deleted, objects_of(kind) / 7);
 
         Events<U64> &time = times.kinds[kind.row];
-        set(time.created, count.created.from_wire() * ns_per_event);
-        set(time.modified, count.modified.from_wire() * ns_per_event / 4);
-        set(time.bound, count.bound.from_wire() * ns_per_event * 200);
-        set(time.unbound, count.unbound.from_wire() * ns_per_event * 8000);
-        set(time.deleted, count.deleted.from_wire() * ns_per_event / 1000);
+        set(time.created, sent(count.created) * ns_per_event);
+        set(time.modified, sent(count.modified) * ns_per_event / 4);
+        set(time.bound, sent(count.bound) * ns_per_event * 200);
+        set(time.unbound, sent(count.unbound) * ns_per_event * 8000);
+        set(time.deleted, sent(count.deleted) * ns_per_event / 1000);
     }
     return ShowDataBuilder{}.add(counts).add(times).bytes();
 }
@@ -71,10 +77,10 @@ std::vector<std::uint8_t> make_resources()
     set(resources.np_count, np_count);
     for (std::uint32_t type = 0; type < resource_types; ++type) {
         for (std::uint32_t np = 0; np < np_count; ++np) {
-            resources.types[type].nps[np] = resource_use(type, np);
+            resources.uses[type][np] = as_sent(resource_use(type, np));
         }
     }
-    MacScan &scan = resources.mac_scans[0];
+    MacScan &scan = resources.mac_scans[0].to_compose();
     set(scan.events[0], 12);
     set(scan.events[6], 3);
     set(scan.states[10], 1);
@@ -85,8 +91,8 @@ std::vector<std::uint8_t> make_resources()
     set(scan.responses_to_freed, 2);
 
     ResourceShowData head{};
-    set(head.length, sizeof resources + np_count * sizeof(U32));
-    U32 macs[np_count];
+    set(head.length, sizeof resources + np_count * sizeof(BigU32));
+    BigU32 macs[np_count];
     set(macs[0], 48211);
     set(macs[1], 48197);
     return ShowDataBuilder{}.add(head).add(resources).add(macs).bytes();
@@ -94,12 +100,12 @@ std::vector<std::uint8_t> make_resources()
 
 std::vector<std::uint8_t> make_hal_summary()
 {
-    U32 np_count;
+    BigU32 np_count;
     set(np_count, 2);
-    U32 high_water_marks[2];
+    BigU32 high_water_marks[2];
     set(high_water_marks[0], 51200);
     set(high_water_marks[1], 49982);
-    U16 resource_status[2];
+    BigU16 resource_status[2];
     set(resource_status[0], 0);
     set(resource_status[1], 0x0004);
     HalSummaryTotals totals{};

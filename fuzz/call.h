@@ -1,7 +1,7 @@
 // What the targets' inputs begin with, and what a call of the library is given.
 #pragma once
 
-#include "common/stored.h"
+#include "common/record.h"
 #include "fuzz/exact_copy.h"
 
 namespace l2fib

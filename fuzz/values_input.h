@@ -1,7 +1,7 @@
 // An input of values.cpp: a few numbers, and bytes for records of any size.
 #pragma once
 
-#include "common/stored.h"
+#include "common/record.h"
 #include "fuzz/exact_copy.h"
 
 #include <algorithm>

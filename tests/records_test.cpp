@@ -5,7 +5,7 @@
 #include "hw/bridge_domain.h"
 #include "hw/bridge_hal_context.h"
 #include "hw/bridge_member.h"
-#include "hw/mac_handler.h"
+#include "hw/mac.h"
 #include "hw/mac_scan.h"
 #include "hw/uidb_entry.h"
 #include "hw/xid_entry.h"

@@ -1,5 +1,5 @@
 #include "common/show_data.h"
-#include "common/stored.h"
+#include "common/record.h"
 
 #include <gtest/gtest.h>
 

@@ -2,9 +2,9 @@
 // show-many most-text: prints how much text 4 MiB of show data give at most, by view; fails when it is too much.
 #include "examples/captures.h"
 #include "examples/show_data_builder.h"
-#include "hw/ac_handler.h"
+#include "hw/plain_ac.h"
 #include "hw/bridge_domain.h"
-#include "hw/bridge_handler.h"
+#include "hw/bridge.h"
 #include "hw/bridge_member.h"
 #include "hw/vpls_ac.h"
 #include "hw/xid_entry.h"
@@ -46,7 +46,7 @@ static ShowDataBuilder plain_ac_with_nps(std::uint32_t count)
     set(ac.np_count, static_cast<std::uint16_t>(count));
     set(ac.context.service, service_local_switch);
     set(ac.context.state, state_bound);
-    set_as_stored(ac.context.requested_np, UINT32_MAX);
+    set_converted(ac.context.requested_np, UINT32_MAX);
     XidEntry entry;
     std::memset(&entry, 0xff, sizeof entry);
     set(entry.type, XidEntry::type_pw_control_word);
@@ -65,7 +65,7 @@ static ShowDataBuilder bridge_with_members(std::uint32_t count)
     set(bridge.np_count, 1);
     set(bridge.context.state, state_bound);
     BridgeHalNpEntry np{};
-    set_as_stored(np.shg_members[0], static_cast<std::uint16_t>(count));
+    set_converted(np.shg_members[0], static_cast<std::uint16_t>(count));
     BridgeMemberCounts counts{};
     set(counts.members, static_cast<std::uint16_t>(count));
     ShowDataBuilder builder;

@@ -1,6 +1,6 @@
 // Which ACs and which of their NPs are shown, and what is said when the hardware's part does not hold them.
 #include "examples/show_data_builder.h"
-#include "hw/ac_handler.h"
+#include "hw/plain_ac.h"
 #include "hw/uidb_entry.h"
 #include "hw/vpls_ac.h"
 #include "hw/xid_entry.h"
@@ -24,10 +24,10 @@ protected:
     AcHandler()
     {
         set(ac.np_count, 1);
-        set_as_stored(ac.context.service, service_vpls);
-        set_as_stored(ac.context.state, state_bound);
-        set_as_stored(ac.context.xid, 0x77);
-        set_as_stored(ac.context.requested_np, all_nps);
+        set_converted(ac.context.service, service_vpls);
+        set_converted(ac.context.state, state_bound);
+        set_converted(ac.context.xid, 0x77);
+        set_converted(ac.context.requested_np, all_nps);
     }
     ~AcHandler() override { test_platform = {}; }
 
@@ -109,8 +109,8 @@ TEST_F(AcHandler, StatesThatAreInHardware)
         {state_bound, 1U << AcContext::is_lag, 0, 0, true},
     };
     for (const auto &c : cases) {
-        set_as_stored(ac.context.state, c.state);
-        set_as_stored(ac.context.flags.word, c.flags);
+        set_converted(ac.context.state, c.state);
+        set_converted(ac.context.flags.word, c.flags);
         test_platform.ifhandle_status = c.ifhandle_status;
         test_platform.ifhandle_virtual = c.is_virtual;
         EXPECT_EQ(show(2, egress(0, 0)), Shown{c.is_shown ? shown_text : "\n  "}) << c.state << ' ' << c.flags;
@@ -136,7 +136,7 @@ TEST_F(AcHandler, NpsOfAVplsAc)
         {10, 1, "  NP0\n"},
     };
     for (const auto &c : cases) {
-        set_as_stored(ac.context.requested_np, c.requested);
+        set_converted(ac.context.requested_np, c.requested);
         // One record more than is declared: it belongs to no NP.
         EXPECT_EQ(np_lines(show(1, ingress(c.np_count, c.np_count + 1)).text), c.lines);
         EXPECT_EQ(np_lines(show(2, egress(c.np_count, c.np_count + 1)).text), c.lines);
@@ -145,7 +145,7 @@ TEST_F(AcHandler, NpsOfAVplsAc)
 
 TEST_F(AcHandler, StormControlKnowsEightNps)
 {
-    set_as_stored(ac.context.requested_np, 8);
+    set_converted(ac.context.requested_np, 8);
     VplsIngressBlock block{};
     set_flags(block.port.features.features, {FeatureFlags::storm_control_multicast});
     EXPECT_EQ(np_lines(show(1, ingress(1, 1, block)).text), "  NP8\n    Invalid NP ID\n");
@@ -156,13 +156,13 @@ TEST_F(AcHandler, StormControlConfiguration)
     VplsIngressBlock block{};
     set_flags(block.port.features.features, {FeatureFlags::storm_control_multicast});
     set(block.port.multicast_rate, 500);
-    set_as_stored(block.port.storm_control_unit, 0xff);
+    set_converted(block.port.storm_control_unit, 0xff);
     StormControlState &state = block.port.storm_control[0];
-    set_as_stored(state.traffic[0].status, 5);
-    set_as_stored(state.traffic[1].status, 3);
-    set_as_stored(state.traffic[1].profile.word, 0x01234567);
-    set_as_stored(state.traffic[1].token_bucket_id, 0xabc);
-    set_as_stored(state.traffic[2].status, 9);
+    set_converted(state.traffic[0].status, 5);
+    set_converted(state.traffic[1].status, 3);
+    set_converted(state.traffic[1].profile.word, 0x01234567);
+    set_converted(state.traffic[1].token_bucket_id, 0xabc);
+    set_converted(state.traffic[2].status, 9);
     VplsIngressNpRecord record{};
     set(record.storm_control.rate[1], -500);
     set(record.storm_control.profile_id[1], 0xffff);
@@ -222,7 +222,7 @@ TEST_F(AcHandler, BridgePortsArePresentByDifferentBits)
 class PlainAc : public AcHandler
 {
 protected:
-    PlainAc() { set_as_stored(ac.context.service, service_local_switch); }
+    PlainAc() { set_converted(ac.context.service, service_local_switch); }
 
     static ShowDataBuilder entries(unsigned count)
     {
@@ -271,7 +271,7 @@ TEST_F(PlainAc, NpsAndTheEntriesThatThereAre)
     };
     for (const std::uint32_t direction : {1U, 2U}) {
         for (const auto &c : cases) {
-            set_as_stored(ac.context.requested_np, c.requested);
+            set_converted(ac.context.requested_np, c.requested);
             set(ac.np_count, c.np_count);
             const Shown result = show(direction, entries(c.entries));
             EXPECT_EQ(occurrences(result.text, "Xconnect ID"), c.printed);

@@ -2,7 +2,7 @@
 #include "examples/captures.h"
 #include "examples/show_data_builder.h"
 #include "hw/bridge_domain.h"
-#include "hw/bridge_handler.h"
+#include "hw/bridge.h"
 #include "hw/bridge_member.h"
 #include "hw/storm_control.h"
 #include "rp/bridge_context.h"
@@ -53,9 +53,9 @@ protected:
 
 TEST_F(BridgeHandler, Members)
 {
-    set_as_stored(hal_np.shg_members[0], 1);
-    set_as_stored(hal_np.shg_members[2], 3);
-    set_as_stored(hal_np.irl_shg0_bound_members, 9);
+    set_converted(hal_np.shg_members[0], 1);
+    set_converted(hal_np.shg_members[2], 3);
+    set_converted(hal_np.irl_shg0_bound_members, 9);
     set(counts.members, 3); // one fewer than the NP has
     members.resize(4);
     set(members[0].xid, 0xab);
@@ -134,7 +134,7 @@ TEST_F(BridgeHandler, ShowDataThatEndsEarly)
 {
     bridge.context.flags.word.bytes = {0, 0x02, 0, 0};             // PBB statistics: feature block 1
     bridge.context.features.features.word.bytes = {0, 0, 0x20, 0}; // broadcast storm control: feature block 2
-    set_as_stored(hal_np.shg_members[0], 1);
+    set_converted(hal_np.shg_members[0], 1);
     set(counts.members, 1);
     ShowDataBuilder builder;
     builder.add(bridge).add(hal_np).add(BridgeFeatureBlock1{}).add(BridgeFeatureBlock1Np{}).add(counts);

@@ -1,4 +1,4 @@
-#include "hw/mac_handler.h"
+#include "hw/mac.h"
 #include "tests/support/printed.h"
 #include "zel_l2fib/show.h"
 

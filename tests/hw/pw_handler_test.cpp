@@ -1,6 +1,6 @@
 // Which PWs are shown, their layer-3 paths, and what is said when the hardware's part does not hold them.
 #include "examples/show_data_builder.h"
-#include "hw/pw_handler.h"
+#include "hw/pw.h"
 #include "rp/names.h"
 #include "tests/support/memory.h"
 #include "tests/support/printed.h"
@@ -19,9 +19,9 @@ class PwHandler : public testing::Test
 protected:
     PwHandler()
     {
-        set_as_stored(pw.context.service, service_vpls);
-        set_as_stored(pw.context.state, state_bound);
-        set_as_stored(pw.context.xid, 0x77);
+        set_converted(pw.context.service, service_vpls);
+        set_converted(pw.context.state, state_bound);
+        set_converted(pw.context.xid, 0x77);
         set(pw.np_count, 1);
     }
 
@@ -110,13 +110,13 @@ TEST_F(PwHandler, NumbersOfNps)
 {
     const std::string too_many = "Error: Number of NPs (9) returned more than supported(8)";
     const std::string invalid = "Error: Number of NPs (0) returned is invalid";
-    set_as_stored(pw.context.layer_flags.word, 0x80);
+    set_converted(pw.context.layer_flags.word, 0x80);
     const std::string invalid_layer = "\n  Port Learn Key: 0\n  Trident Layer Flags: invalid";
     set(pw.np_count, 9);
     EXPECT_EQ(show(1, {}), Shown{invalid_layer + too_many});
     set(pw.np_count, 0);
     EXPECT_EQ(show(1, {}), Shown{invalid_layer + invalid});
-    set_as_stored(pw.context.service, service_mtun);
+    set_converted(pw.context.service, service_mtun);
     EXPECT_EQ(show(1, {}), Shown{"\n  " + invalid});
     set(pw.np_count, 9);
     EXPECT_EQ(show(1, {}), Shown{"\n  " + too_many});
@@ -124,7 +124,7 @@ TEST_F(PwHandler, NumbersOfNps)
 
 TEST_F(PwHandler, PointToPointNamesTheNpsOfItsRecords)
 {
-    set_as_stored(pw.context.service, service_mtun);
+    set_converted(pw.context.service, service_mtun);
     set(pw.np_count, 2);
     PwNpRecord first{};
     PwNpRecord second{};
@@ -148,12 +148,12 @@ TEST_F(PwHandler, GatesAndFailures)
               (Shown{std::string(layer_line) + "\n  data_size is 495, expecting at least 496" + data_failure,
                      L2FIB_SHOW_ERR_DATA}));
 
-    set_as_stored(pw.context.service, service_mtun);
+    set_converted(pw.context.service, service_mtun);
     EXPECT_EQ(show(2, std::vector<std::uint8_t>(191)),
               (Shown{"\n  data_size is 499, expecting at least 500" + data_failure, L2FIB_SHOW_ERR_DATA}));
-    set_as_stored(pw.context.service, service_local_switch);
+    set_converted(pw.context.service, service_local_switch);
     EXPECT_EQ(show(1, ingress()), failed);
-    set_as_stored(pw.context.state, state_unbound);
+    set_converted(pw.context.state, state_unbound);
     EXPECT_EQ(show(1, ingress()), Shown{""});
 
     EXPECT_EQ(shown([] { return zel_l2fib_trident_print_internal_detail(1, 3, 1, 1, 1, nullptr, 9); }),
