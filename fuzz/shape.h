@@ -35,7 +35,7 @@ public:
     };
 
     /// The record behind the last one.
-    template <ShowDataRecord Record>
+    template <ShowDataPiece Record>
     Placed<Record> add()
     {
         Placed<Record> placed{whole_size(), {}};
@@ -67,11 +67,11 @@ public:
     [[nodiscard]] std::size_t whole_size() const { return ends_.back(); }
 
 private:
-    template <ShowDataRecord Record>
+    template <ShowDataPiece Record>
     [[nodiscard]] const Record *at(std::size_t offset) const
     {
         return offset <= input_.size() && sizeof(Record) <= input_.size() - offset
-                   ? &ShowData::promised<const Record>(input_.data() + offset)
+                   ? &ShowData::unchecked<const Record>(input_.data() + offset)
                    : nullptr;
     }
     void add_field(const Field &field)

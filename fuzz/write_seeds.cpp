@@ -49,11 +49,11 @@ static Call call_for(const SampleCapture &sample)
     constexpr std::uint32_t supported_card = 0x1e1000;
     constexpr std::uint64_t uptime = 1'000'000;
     Call call{};
-    set_converted(call.objtype, row_named(objects(), sample.object)->objtype);
-    set_converted(call.direction, row_named(directions(), sample.direction)->number);
-    set_converted(call.view_flags, row_named(views(), sample.view)->number);
-    set_converted(call.card_type, supported_card);
-    set_converted(call.monotonic_seconds, uptime);
+    set(call.objtype, row_named(objects(), sample.object)->objtype);
+    set(call.direction, row_named(directions(), sample.direction)->number);
+    set(call.view_flags, row_named(views(), sample.view)->number);
+    set(call.card_type, supported_card);
+    set(call.monotonic_seconds, uptime);
     return call;
 }
 
@@ -91,15 +91,15 @@ static void write_seeds(SeedWriter &seeds, const SampleCapture &sample)
     const std::vector<std::uint8_t> show_data = sample.make();
     Call call = call_for(sample);
     if (const auto function = summary_function(sample.object)) {
-        set_converted(call.function, *function);
+        set(call.function, *function);
         seeds.write("summaries", name, call, show_data);
     }
     seeds.write("front-door", name, call, show_data);
     Call long_call = call;
-    set_converted(long_call.period, 7);
-    set_converted(long_call.function, summary_function(sample.object).value_or(resources));
+    set(long_call.period, 7);
+    set(long_call.function, summary_function(sample.object).value_or(resources));
     seeds.write("text-size", name, long_call, show_data);
-    set_converted(call.function, by_view_flags);
+    set(call.function, by_view_flags);
     seeds.write("hardware", name, call, show_data);
     if (call.view_flags == L2FIB_VIEW_INCONSISTENT) {
         seeds.write("tlv", name, call, show_data);
@@ -121,7 +121,7 @@ static void write_seeds_that_ask(SeedWriter &seeds)
     Capture unbound;
     unbound.object = row_named(objects(), "ac");
     unbound.show_data = make_local_switch_ac();
-    set(ShowData::promised<AcShowData>(unbound.show_data.data()).context.state, state_unbound);
+    set(ShowData::unchecked<AcShowData>(unbound.show_data.data()).context.to_compose().state, state_unbound);
     unbound.router.virtual_interfaces = {0};
     seeds.write("capture", "unbound-ac", format_capture(unbound));
 
