@@ -97,8 +97,8 @@ struct IsReadableAsReceived<InRecord> : std::bool_constant<all_are_readable(type
 
 } // namespace record_fields
 
-/// Converts neighbouring numbers of 16 bits in place, four at a time. A bridge has over two hundred of them: one by one,
-/// they take its private view from 8.9 to 12.7 instructions for a character of text.
+/// Converts neighbouring numbers of 16 bits in place, four at a time. A bridge has over two hundred of them: one by
+/// one, they take its private view from 8.9 to 12.7 instructions for a character of text.
 template <std::size_t count>
 void convert_halves(U16 (&numbers)[count])
 {

@@ -16,7 +16,8 @@ namespace l2fib
 /// are converted first comes as a Received one.
 template <class Piece>
 concept ShowDataPiece =
-    alignof(Piece) == 1 && std::is_trivially_copyable_v<Piece> &&record_fields::IsReadableAsReceived<std::remove_const_t<Piece>>::value;
+    alignof(Piece) == 1 &&
+    std::is_trivially_copyable_v<Piece> &&record_fields::IsReadableAsReceived<std::remove_const_t<Piece>>::value;
 
 /// The caller's buffer, or the part of it that begins at some offset.
 class ShowData
