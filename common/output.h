@@ -12,9 +12,8 @@
 namespace l2fib
 {
 
-/// The text of one call into the library. It is put together here and handed to the stream when there is no more room,
-/// and before control leaves the library: flush() is for what may print by itself, and the end of the call does the
-/// rest.
+/// The text of one call into the library. It is collected in a buffer, which goes to the stream when it is full and at
+/// the end of the call. Call flush() before any function that may print by itself.
 class Output
 {
 public:
@@ -25,14 +24,14 @@ public:
 
     void flush();
 
-    /// Text as it stands. Returns the number of characters, as do the others.
+    /// Prints on the current line. Returns the number of characters.
     template <class... Args>
     [[gnu::always_inline]] int text(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
         return text(format, std::index_sequence_for<Args...>(), printf_argument(args)...);
     }
 
-    /// One character over and over.
+    /// Prints a character `count` times.
     void repeat(char c, std::uint64_t count)
     {
         if (count > few) {
@@ -43,17 +42,17 @@ public:
         }
     }
 
-    /// As many blanks as printf pads a width with. One that overflowed to a negative number pads as well.
+    /// Pads as printf's "%*s" does with an empty string. A width that has overflowed to a negative one pads as well.
     int blanks(std::int64_t width)
     {
         repeat(' ', static_cast<std::uint64_t>(width < 0 ? -width : width));
         return static_cast<int>(width < 0 ? -width : width);
     }
 
-    /// The blanks in front of a line, two a level.
+    /// Prints the blanks before a line, two for each level.
     int indent(std::uint32_t level) { return blanks(static_cast<std::int32_t>(2 * level)); }
 
-    /// Opens a new line, and ends the one before; returns the column reached.
+    /// Ends the line and indents the next one. Returns the column.
     int line(std::uint32_t level)
     {
         reserve(1 + few);
@@ -61,7 +60,7 @@ public:
         return indent(level);
     }
 
-    /// Opens a new line and prints its text.
+    /// Ends the line and prints the next one, except for its end.
     template <class... Args>
     [[gnu::always_inline]] void line(std::uint32_t level, const Format<std::type_identity_t<Args>...> &format,
                                      const Args &...args)
@@ -70,7 +69,7 @@ public:
         text<Args...>(format, args...);
     }
 
-    /// The line that a show command begins with: there is none before it to end.
+    /// Prints the first line of a show command: there is no line before it to end.
     template <class... Args>
     [[gnu::always_inline]] void first_line(std::uint32_t level, const Format<std::type_identity_t<Args>...> &format,
                                            const Args &...args)
@@ -85,7 +84,7 @@ private:
 
     void put_many(char c, std::uint64_t count);
 
-    /// Makes room for so many characters, of at most a buffer.
+    /// Makes room for `size` characters, at most buffer_size.
     void reserve(std::size_t size)
     {
         if (next_ > buffer_ + buffer_size - size) {
@@ -93,7 +92,7 @@ private:
         }
     }
 
-    // Inlined down to the characters, the compiler knows the format of each call, and what is left is what it prints.
+    // Always inlined: the compiler knows the format of each call then, and leaves nothing but the copying of its text.
     template <class AnyFormat, std::size_t... indices, class... Values>
     [[gnu::always_inline]] int text(const AnyFormat &format, std::index_sequence<indices...> /*all*/, Values... values)
     {
