@@ -91,7 +91,7 @@ struct Subject {
     std::string text;
 };
 
-/// Standard output, for as long as this lives: /dev/null, or a pipe that somebody empties.
+/// Sends standard output to /dev/null, or to a pipe that a thread empties, until the end of its life.
 class Sink
 {
 public:
@@ -176,7 +176,7 @@ static void measure(benchmark::State &state, const Measurement &measurement)
     state.SetItemsProcessed(iterations * static_cast<std::int64_t>(measurement.subjects.size()));
 }
 
-/// A file of captures: so many of them, the samples in turn.
+/// A file of `count` captures, the samples in turn.
 class CaptureFile
 {
 public:
@@ -186,7 +186,7 @@ public:
         for (std::size_t done = 0; done < count; ++done) {
             lines += sample_line(sample_captures[done % std::size(sample_captures)]) + '\n';
         }
-        // At once: what is written in small pieces lies in small pieces in the system's cache, and is read slower.
+        // In one write: what is written in small pieces is kept in small pieces by the system, and read more slowly.
         if (file_ == nullptr || std::fwrite(lines.data(), 1, lines.size(), file_) != lines.size() ||
             std::fflush(file_) != 0) {
             std::perror("measure-views: a temporary file");
@@ -222,8 +222,8 @@ static void measure_reading(benchmark::State &state, const CaptureFile &file)
     state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * captures_read));
 }
 
-/// Prints a line when a subject is measured in every way: the library's, the baseline's and the floor's, to /dev/null
-/// and then to a pipe. What reading takes is compared with the line before.
+/// Prints a line for each subject when it has been measured in every way: the library, the baseline and the floor, to
+/// /dev/null and then to a pipe. Reading is compared with the line before it.
 class TableReporter : public benchmark::BenchmarkReporter
 {
 public:
@@ -290,7 +290,7 @@ static std::vector<Subject> make_subjects()
     return subjects;
 }
 
-/// Has a subject measured in every way, under one name.
+/// Adds the measurements of some subjects in every way, under one name.
 static void add(std::vector<Measurement> &measurements, const std::string &name,
                 const std::vector<const Subject *> &subjects, const Library &baseline)
 {

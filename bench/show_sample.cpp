@@ -1,4 +1,4 @@
-// Shows a sample capture over and over, for a profiler that looks at show_once() only: show-sample NAME TIMES
+// Shows a sample capture many times, for a profiler that looks at show_once() only: show-sample NAME TIMES
 #include "client/capture.h"
 #include "examples/sample_lines.h"
 

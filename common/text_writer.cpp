@@ -9,7 +9,7 @@ namespace l2fib
 void TextWriter::flush()
 {
     const auto size = static_cast<std::size_t>(next_ - buffer_);
-    std::fwrite(buffer_, 1, size, stream_); // what does not arrive is the stream's to tell its owner
+    std::fwrite(buffer_, 1, size, stream_); // whoever owns the stream looks at its error flag
     next_ = buffer_;
 }
 

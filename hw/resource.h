@@ -36,8 +36,8 @@ struct ResourceUse {
 };
 static_assert(sizeof(ResourceUse) == 112 && offsetof(ResourceUse, in_use) == 96);
 
-/// The slots of all NPs are carried, whether or not the card has as many. The number of MACs (U32) follows for each NP
-/// that it has.
+/// There are slots for eight NPs, even when the card has fewer. The number of MACs (BigU32) follows for each NP that it
+/// has.
 struct ResourceData {
     BigU32 np_count;
     Received<ResourceUse> uses[resource_types][max_nps]; //     4

@@ -1,4 +1,4 @@
-// Storm control of an AC and of a bridge: how it is configured, and what came of it on an NP.
+// Storm control of an AC and of a bridge: how it is configured, and what an NP has made of it.
 #pragma once
 
 #include "common/output.h"

@@ -36,7 +36,7 @@ struct VplsIngressNpRecord {
 };
 static_assert(sizeof(VplsIngressNpRecord) == 452);
 
-/// How many NPs the line card's own software has written records for, after the NP count of the AC.
+/// The number of NPs that the line card has written records for. The AC's own NP count may be another.
 struct VplsNpCount {
     U32 count;
 

@@ -6,7 +6,7 @@
 namespace l2fib
 {
 
-/// Rows of each of its tables; some are of kinds that no view shows.
+/// The rows of each of its tables. Some are for kinds that no view shows.
 constexpr unsigned object_kind_rows = 27;
 
 struct ObjectKind {
