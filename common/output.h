@@ -16,14 +16,14 @@ public:
 
     using TextWriter::line;
 
-    /// Text as it stands. Returns the number of characters, as do the others.
+    /// Prints on the current line. Returns the number of characters.
     template <class... Args>
     [[gnu::always_inline]] int text(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
         return text(format, std::index_sequence_for<Args...>(), printf_argument(args)...);
     }
 
-    /// Opens a new line and prints its text.
+    /// Ends the line and prints the next one, except for its end.
     template <class... Args>
     [[gnu::always_inline]] void line(std::uint32_t level, const Format<std::type_identity_t<Args>...> &format,
                                      const Args &...args)
@@ -32,7 +32,7 @@ public:
         text<Args...>(format, args...);
     }
 
-    /// The line that a show command begins with: there is none before it to end.
+    /// Prints the first line of a show command: there is no line before it to end.
     template <class... Args>
     [[gnu::always_inline]] void first_line(std::uint32_t level, const Format<std::type_identity_t<Args>...> &format,
                                            const Args &...args)

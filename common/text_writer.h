@@ -11,9 +11,8 @@
 namespace l2fib
 {
 
-/// The text of one call into the library. It is put together here and handed to the stream when there is no more room,
-/// and before control leaves the library: flush() is for what may print by itself, and the end of the call does the
-/// rest.
+/// The text of one call into the library. It is collected in a buffer, which goes to the stream when it is full and at
+/// the end of the call. Call flush() before any function that may print by itself.
 class TextWriter
 {
 public:
@@ -24,7 +23,7 @@ public:
 
     void flush();
 
-    /// One character over and over.
+    /// Prints a character `count` times.
     void repeat(char c, std::uint64_t count)
     {
         if (count > few) {
@@ -35,17 +34,17 @@ public:
         }
     }
 
-    /// As many blanks as printf pads a width with. One that overflowed to a negative number pads as well.
+    /// Pads as printf's "%*s" does with an empty string. A width that has overflowed to a negative one pads as well.
     int blanks(std::int64_t width)
     {
         repeat(' ', static_cast<std::uint64_t>(width < 0 ? -width : width));
         return static_cast<int>(width < 0 ? -width : width);
     }
 
-    /// The blanks in front of a line, two a level.
+    /// Prints the blanks before a line, two for each level.
     int indent(std::uint32_t level) { return blanks(static_cast<std::int32_t>(2 * level)); }
 
-    /// Opens a new line, and ends the one before; returns the column reached.
+    /// Ends the line and indents the next one. Returns the column.
     int line(std::uint32_t level)
     {
         reserve(1 + few);
@@ -54,7 +53,7 @@ public:
     }
 
 protected:
-    /// Makes room for so many characters, of at most a buffer.
+    /// Makes room for `size` characters, at most buffer_size.
     void reserve(std::size_t size)
     {
         if (next_ > buffer_ + buffer_size - size) {
@@ -65,7 +64,7 @@ protected:
     // The pieces of a format's text, for which there is room. Each returns its number of characters. Inlined down to
     // the characters, the compiler knows the format of each call, and what is left is what it prints.
 
-    /// The text in front of an argument, or after the last one.
+    /// The text before an argument, or after the last one.
     template <class AnyFormat>
     [[gnu::always_inline]] std::size_t put_literal(const AnyFormat &format, std::size_t index)
     {
