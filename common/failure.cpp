@@ -17,36 +17,42 @@ const char *status_text(std::uint32_t status)
 
 std::uint32_t short_data(Output &out, std::uint32_t level, std::uint64_t size, std::uint64_t needed)
 {
+    const Failure failure(out);
     out.line(level, "data_size is %zd, expecting at least %zd", size, needed);
     return L2FIB_SHOW_ERR_DATA;
 }
 
 std::uint32_t null_arguments(Output &out, std::uint32_t level, const Literal &function)
 {
+    const Failure failure(out);
     out.line(level, "%s: Null arguments rcvd", function);
     return L2FIB_SHOW_ERR_ARGS;
 }
 
 std::uint32_t null_show_data(Output &out, const Literal &function, std::uint32_t objtype)
 {
+    const Failure failure(out);
     out.text("%s: NULL show data objtype %d action %d\n", function, objtype, action_null_show_data);
     return L2FIB_SHOW_ERR_ARGS;
 }
 
 std::uint32_t null_summary(Output &out, const Literal &function)
 {
+    const Failure failure(out);
     out.text("%s: NULL show data \n", function);
     return L2FIB_SHOW_ERR_ARGS;
 }
 
 std::uint32_t wrong_summary_size(Output &out, const Literal &function, std::uint64_t size)
 {
+    const Failure failure(out);
     out.text("%s: Showdata size wrong %d \n", function, static_cast<std::uint32_t>(size));
     return L2FIB_SHOW_ERR_ARGS;
 }
 
 std::uint32_t wrong_objtype(Output &out, const Literal &function, std::uint32_t objtype)
 {
+    const Failure failure(out);
     out.text("%s: Wrong L2FIB objtype %d action %d", function, objtype, action_wrong_objtype);
     return 0;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/output.h"
+#include "common/recording.h"
 #include "zel_l2fib/show.h"
 
 namespace l2fib

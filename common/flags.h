@@ -49,6 +49,9 @@ struct FlagTable {
         return (set & named_) | (~set & named_when_clear_);
     }
 
+    /// Those flags that have a row.
+    [[nodiscard]] constexpr std::uint32_t named() const { return named_; }
+
     Flag rows[size];
 
 private:

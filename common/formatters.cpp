@@ -12,7 +12,7 @@
 namespace l2fib
 {
 
-Text timestamp_text(std::uint64_t stamp)
+Text timestamp_of(std::uint64_t stamp)
 {
     constexpr std::uint64_t ns_per_second = 1'000'000'000;
     if (stamp == 0) {
@@ -34,7 +34,7 @@ Text timestamp_text(std::uint64_t stamp)
     return time.size != 0 ? time : Text{"unknown_time"};
 }
 
-Text shg_text(std::uint32_t group)
+Text shg_of(std::uint32_t group)
 {
     switch (group) {
     case 0: return {"None"};
@@ -44,13 +44,13 @@ Text shg_text(std::uint32_t group)
     }
 }
 
-Text mac_text(const Bytes<6> &mac)
+Text mac_of(const Bytes<6> &mac)
 {
     const auto pair = [&mac](unsigned first) { return static_cast<std::uint16_t>(mac[first] << 8U | mac[first + 1]); };
     return number_text("%04x.%04x.%04x", pair(0), pair(2), pair(4));
 }
 
-Text elapsed_text(std::uint64_t ns)
+Text elapsed_of(std::uint64_t ns)
 {
     const std::uint64_t ms = ns / 1'000'000;
     const std::uint64_t seconds = ns / 1'000'000'000;
@@ -94,20 +94,20 @@ static int store(const Text &text, char *room, std::size_t capacity)
 int zel_l2fib_print_elapsed(uint64_t ns, char *text, uint32_t capacity)
 {
     std::memset(text, 0, capacity);
-    return l2fib::store(l2fib::elapsed_text(ns), text, capacity);
+    return l2fib::store(l2fib::elapsed_of(ns), text, capacity);
 }
 
 int zel_l2fib_get_shg_str(char *text, int capacity, int value)
 {
     const auto room = static_cast<std::size_t>(std::max(capacity, 0));
-    return l2fib::store(l2fib::shg_text(static_cast<std::uint32_t>(value)), text, room);
+    return l2fib::store(l2fib::shg_of(static_cast<std::uint32_t>(value)), text, room);
 }
 
 int print_mac(const uint8_t *mac)
 {
     l2fib::Bytes<6> bytes{};
     std::copy_n(mac, bytes.size(), bytes.begin());
-    return l2fib::Output{}.text("%s", l2fib::mac_text(bytes));
+    return l2fib::Output{}.text("%s", l2fib::mac_of(bytes));
 }
 
 int print_ip(const uint32_t *address)

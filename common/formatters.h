@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/number.h"
+#include "common/recording.h"
 #include "common/text.h"
 
 #include <cstdint>
@@ -9,16 +10,39 @@
 namespace l2fib
 {
 
+// What a number, or the bytes of an address, look like.
+Text timestamp_of(std::uint64_t stamp);
+Text elapsed_of(std::uint64_t ns);
+Text shg_of(std::uint32_t group);
+Text mac_of(const Bytes<6> &mac);
+
+// The same for a field.
+
 /// The wall-clock time of a monotonic stamp in nanoseconds, "N/A" for a stamp of 0.
-Text timestamp_text(std::uint64_t stamp);
+template <class Field>
+auto timestamp_text(const Field &stamp)
+{
+    return made_from(stamp, timestamp_of);
+}
 
 /// An elapsed time in nanoseconds.
-Text elapsed_text(std::uint64_t ns);
+template <class Field>
+auto elapsed_text(const Field &ns)
+{
+    return made_from(ns, elapsed_of);
+}
 
 /// A split-horizon group.
-Text shg_text(std::uint32_t group);
+template <class Field>
+auto shg_text(const Field &group)
+{
+    return made_from(group, shg_of);
+}
 
 /// A MAC address in wire order: 0011.2233.4455.
-Text mac_text(const Bytes<6> &mac);
+inline auto mac_text(const Bytes<6> &mac)
+{
+    return made_from(mac, mac_of);
+}
 
 } // namespace l2fib

@@ -54,9 +54,13 @@ public:
     {
         const std::uint32_t set = set_flags(word);
         const std::uint32_t shown = table.shown(set) & considered;
+        const Flags all(out_, word);
+        all.unnamed(set & ~table.named());
         for (const Flag &flag : table.rows) {
             if (is_set(shown, flag.number)) {
-                item("%s", is_set(set, flag.number) ? flag.text : flag.text_when_clear);
+                const Literal &text = is_set(set, flag.number) ? flag.text : flag.text_when_clear;
+                item("%s", text);
+                all.add(text);
             }
         }
     }

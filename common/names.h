@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/literal.h"
+#include "common/recording.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -9,10 +10,11 @@
 namespace l2fib
 {
 
-template <std::size_t size>
-constexpr Literal name_of(const Literal (&names)[size], std::uint32_t index, const Literal &otherwise)
+/// The name of a number, or of a field's number.
+template <std::size_t size, class Index>
+constexpr auto name_of(const Literal (&names)[size], const Index &index, const Literal &otherwise)
 {
-    return index < size ? names[index] : otherwise;
+    return made_from(index, [&](std::uint32_t number) { return number < size ? names[number] : otherwise; });
 }
 
 } // namespace l2fib

@@ -1,6 +1,7 @@
 // The one way out: all text of the library leaves through an Output.
 #pragma once
 
+#include "common/recording.h"
 #include "common/text_writer.h"
 
 #include <type_traits>

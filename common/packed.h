@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/number.h"
+#include "common/recording.h"
 
 #include <algorithm>
 
@@ -71,11 +72,12 @@ public:
     /// The whole word, after conversion.
     [[nodiscard]] constexpr Word word() const { return std::bit_cast<Word>(bytes); }
 
-    [[nodiscard]] constexpr Word get(unsigned field) const
+    [[nodiscard]] constexpr FromField<Word> get(unsigned field) const
     {
-        return static_cast<Word>(word() >> layout[field].start) & mask(layout[field]);
+        const Word value = static_cast<Word>(word() >> layout[field].start) & mask(layout[field]);
+        return from_field(value, *this);
     }
-    [[nodiscard]] constexpr bool test(unsigned field) const { return get(field) != 0; }
+    [[nodiscard]] constexpr FromField<bool> test(unsigned field) const { return from_field(get(field) != 0, *this); }
 
     /// All fields at once: a bit for each, set when the field is not zero.
     [[nodiscard]] constexpr std::uint32_t set_flags() const
@@ -131,7 +133,10 @@ template <FieldRun... runs>
 class HardwareFlags : public FlagWord<runs...>
 {
 public:
-    [[nodiscard]] constexpr bool test(unsigned bit) const { return (this->word() >> (31 - bit) & 1U) != 0; }
+    [[nodiscard]] constexpr FromField<bool> test(unsigned bit) const
+    {
+        return from_field((this->word() >> (31 - bit) & 1U) != 0, *this);
+    }
     [[nodiscard]] constexpr std::uint32_t set_flags() const { return bits_reversed(this->word()); }
 };
 

@@ -1,6 +1,7 @@
 // Checked access to show data. A record is reached through here or not at all.
 #pragma once
 
+#include "common/reached.h"
 #include "common/record.h"
 
 #include <algorithm>
@@ -39,15 +40,16 @@ public:
     template <ShowDataPiece Piece>
     [[nodiscard]] Piece *at(std::uint64_t offset) const
     {
-        return !is_null() && holds(offset, sizeof(Piece)) ? &unchecked<Piece>(begin_ + offset) : nullptr;
+        return array_at<Piece>(offset, 1).data();
     }
 
     /// The pieces from an offset on, none unless all of them lie inside the show data.
     template <ShowDataPiece Piece>
     [[nodiscard]] std::span<Piece> array_at(std::uint64_t offset, std::uint32_t count) const
     {
-        auto *first = holds(offset, std::uint64_t{count} * sizeof(Piece)) ? at<Piece>(offset) : nullptr;
-        return first == nullptr ? std::span<Piece>{} : std::span<Piece>{first, count};
+        return !is_null() && holds(offset, std::uint64_t{count} * sizeof(Piece))
+                   ? unchecked_array<Piece>(begin_, offset, count)
+                   : std::span<Piece>{};
     }
 
     /// The show data from an offset on; null show data where it does not reach that far.
@@ -72,15 +74,16 @@ public:
     template <ShowDataPiece Piece, class Byte>
     [[nodiscard]] static Piece &unchecked(Byte *bytes, std::uint64_t offset = 0)
     {
-        return *reinterpret_cast<Piece *>(bytes + offset);
+        return unchecked_array<Piece>(bytes, offset, 1).front();
     }
 
     /// The pieces from an offset on, without a check, likewise.
-    template <ShowDataPiece Piece>
-    [[nodiscard]] static std::span<Piece> unchecked_array(std::uint8_t *bytes, std::uint64_t offset,
-                                                          std::uint32_t count)
+    template <ShowDataPiece Piece, class Byte>
+    [[nodiscard]] static std::span<Piece> unchecked_array(Byte *bytes, std::uint64_t offset, std::uint32_t count)
     {
-        return {&unchecked<Piece>(bytes, offset), count};
+        auto *first = reinterpret_cast<Piece *>(bytes + offset);
+        reached(first, count);
+        return {first, count};
     }
 
 private:

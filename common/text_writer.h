@@ -53,6 +53,9 @@ public:
     }
 
 protected:
+    /// What has not gone to the stream yet.
+    [[nodiscard]] std::string_view buffered() const { return {buffer_, static_cast<std::size_t>(next_ - buffer_)}; }
+
     /// Makes room for `size` characters, at most buffer_size.
     void reserve(std::size_t size)
     {

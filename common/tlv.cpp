@@ -41,10 +41,13 @@ public:
 
     template <class Value>
     [[gnu::always_inline]] void value(std::uint8_t verdict, const Format<std::type_identity_t<Value>> &format,
-                                      Value value)
+                                      const Value &value)
     {
+        const Element of_value(out_, "values");
+        note(out_, "line", line_number_);
         if (verdict != no_verdict) {
             verdict_ = verdict;
+            note(out_, "verdict", verdict_name(verdict));
         }
         if (!line_is_open_) {
             column_ = advance(out_.indent(level_));
@@ -66,6 +69,7 @@ public:
         out_.text("\n");
         line_is_open_ = false;
         column_ = 0;
+        ++line_number_;
     }
 
     /// Prints on a line of its own why the report ends here. Returns the status.
@@ -75,6 +79,7 @@ public:
         if (line_is_open_) {
             out_.text("\n");
         }
+        const Failure failure(out_);
         out_.first_line<Args...>(level_, format, args...);
         return L2FIB_SHOW_ERR_DATA;
     }
@@ -85,6 +90,7 @@ private:
     Output &out_;
     std::uint32_t level_;
     std::uint64_t column_ = 0;
+    std::uint32_t line_number_ = 0;
     std::uint8_t verdict_ = no_verdict;
     bool line_is_open_ = false;
 };
@@ -100,9 +106,9 @@ static bool print_record(Report &report, const TlvHeader &header, ShowData recor
             return false;
         }
         if (header.type == tlv_number) {
-            report.value(header.verdict, "%u ", *number);
+            report.value(header.verdict, "%u ", from_field(number->value(), *number, "number"));
         } else {
-            report.value(header.verdict, "%08x ", *number);
+            report.value(header.verdict, "%08x ", from_field(number->value(), *number, "number"));
         }
         return true;
     }
@@ -145,8 +151,9 @@ static std::uint32_t print_stream(Report &report, ShowData &rest)
     return 0;
 }
 
-std::uint32_t print_report(Output &out, std::uint32_t level, ShowData &rest)
+std::uint32_t print_report(Output &out, std::uint32_t level, const char *key, ShowData &rest)
 {
+    const Section section(out, key);
     Report report{out, level};
     return print_stream(report, rest);
 }
@@ -161,7 +168,7 @@ uint32_t zel_l2fib_print_tlv(uint32_t level, uint8_t **cursor, uint64_t *remaini
     }
     Output out;
     ShowData rest{*cursor, *remaining};
-    const std::uint32_t status = print_report(out, level, rest);
+    const std::uint32_t status = print_report(out, level, "report", rest);
     *cursor = rest.bytes();
     *remaining = rest.size();
     return status;

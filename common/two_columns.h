@@ -36,8 +36,14 @@ public:
     void flags(const FlagTable<size> &table, const Word &word)
     {
         const std::uint32_t set = set_flags(word);
+        const Flags all(out_, word);
+        all.unnamed(set & ~table.named());
         for (const Flag &flag : table.rows) {
-            item("%s: %d", flag.text, is_set(set, flag.number) ? 1 : 0);
+            const bool is_one = is_set(set, flag.number);
+            item("%s: %d", flag.text, again(is_one ? 1 : 0));
+            if (is_one) {
+                all.add(flag.text);
+            }
         }
     }
 

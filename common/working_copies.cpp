@@ -15,6 +15,7 @@ void *obtain_bytes(std::size_t size, std::uint8_t fill)
 void copy_bytes(void *to, const void *from, std::size_t size)
 {
     std::memcpy(to, from, size);
+    copied(to, from, size);
 }
 
 } // namespace l2fib

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/record.h"
+#include "common/recording.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -66,6 +66,7 @@ std::uint32_t show_ac(Output &out, std::uint32_t level, std::uint32_t direction,
     }
     const std::uint32_t status = print_ac(out, level, direction, data);
     if (status != 0) {
+        const Failure failure(out);
         out.line(level, "%s: print handler failed for service %s objtype %d : %s", hardware_detail_view,
                  service_of(data), std::uint32_t{L2FIB_OBJTYPE_AC}, status_text(status));
     }

@@ -124,6 +124,7 @@ bool BridgeWalk::take_feature_block_1()
     for (std::uint32_t np = 0; np < np_count(); ++np) {
         const BridgeFeatureBlock1Np &entry = nps[np].to_host();
         if (bridge_->bvi_present()) {
+            const Element of_np(out_, "bvi_nps");
             out_.line(level_ + 1, "NP %d: BVI TCAM index: 0x%08x ", np, entry.bvi_tcam_index);
         }
     }
@@ -141,6 +142,7 @@ std::uint32_t BridgeWalk::print_storm_control_of_bridge()
     for (Received<StormControlState> &received : states) {
         received.to_host();
     }
+    const Section section(out_, "storm_control");
     WorkingCopies<StormControlProfile> profiles(np_count(), 0);
     if (!profiles.obtained()) {
         return L2FIB_SHOW_ERR_NOMEM;
@@ -151,7 +153,7 @@ std::uint32_t BridgeWalk::print_storm_control_of_bridge()
     if (const StormControlState &state = states[0].converted_before(); has_storm_control(state)) {
         const auto &rate = profiles[0].rate;
         const bool kbps = is_set(hal_->flags, BridgeHalContext::storm_control_unit_kbps);
-        const auto config = storm_control_config(bridge_->features, {rate[0], rate[1], rate[2]}, kbps);
+        const auto config = storm_control_config(bridge_->features, {&rate[0], &rate[1], &rate[2]}, kbps);
         print_storm_control(out_, level_ + 3, config, state, profiles[0], 0);
     }
     return 0;
@@ -159,6 +161,7 @@ std::uint32_t BridgeWalk::print_storm_control_of_bridge()
 
 bool BridgeWalk::print_np(std::uint32_t np)
 {
+    const Element of_np(out_, "nps");
     List heading{out_, level_ + 2};
     auto *received = cursor_.take<Received<BridgeDomainRecord>>();
     if (received == nullptr) {
@@ -175,11 +178,11 @@ bool BridgeWalk::print_np(std::uint32_t np)
 void BridgeWalk::print_statistics_pointers(std::uint32_t np)
 {
     if (bridge_->flags.test(BridgeContext::pbb_statistics_pointer)) {
-        out_.line(level_ + 3, "pbb-stats-ptr NP %d: 0x%08x ", np,
+        out_.line(level_ + 3, "pbb-stats-ptr NP %d: 0x%08x ", again(np),
                   feature_block_1_nps_[np].converted_before().pbb_statistics_pointer);
     }
     if (bridge_->flags.test(BridgeContext::evpn_statistics_pointer)) {
-        out_.line(level_ + 3, "evpn-stats-ptr NP %d: 0x%08x ", np,
+        out_.line(level_ + 3, "evpn-stats-ptr NP %d: 0x%08x ", again(np),
                   feature_block_1_nps_[np].converted_before().evpn_statistics_pointer);
     }
 }
@@ -203,6 +206,7 @@ void BridgeWalk::print_next_hop_counts()
 {
     if (bridge_->flags.test(BridgeContext::next_hop_has_bvi)) {
         const auto &counts = feature_block_1_->pw_over_bvi;
+        const Section section(out_, "next_hop_bvi");
         out_.text("NHOP has BVI");
         out_.line(level_ + 2, "PW BVI count: shg0: %d, shg1: %d, shg2: %d", counts[0], counts[1], counts[2]);
     }

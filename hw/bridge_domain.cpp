@@ -36,9 +36,9 @@ static constexpr FlagTable bridge_domain_flags{{
     {3, "EVPN Flow Label"},
 }};
 
-static std::uint32_t upper_24_bits(std::uint32_t word)
+static auto upper_24_bits(const U32 &word)
 {
-    return word >> 8;
+    return from_field(word >> 8, word);
 }
 
 void print_bridge_domain_flags(Output &out, std::uint32_t level, const BridgeDomainRecord &domain)
@@ -54,7 +54,7 @@ void print_bridge_domain_values(Output &out, std::uint32_t level, const BridgeDo
 {
     const bool single_shg0_np = domain.flags.test(BridgeDomainRecord::single_shg0_np);
     List members{out, level};
-    members.item("Num Members: %d", single_shg0_np ? std::uint32_t{1} : domain.members & 0xffffU);
+    members.item("Num Members: %d", from_field(single_shg0_np ? 1U : domain.members & 0xffffU, domain.members));
     members.item("Learn Key: 0x%02x", domain.learn_key);
     members.item("Half Age: %d", domain.half_age);
 

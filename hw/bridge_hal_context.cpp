@@ -15,6 +15,7 @@ static constexpr FlagTable hal_flags{{
 void print_bridge_hal_context(Output &out, std::uint32_t level, const BridgeHalContext &bridge,
                               std::span<const BridgeHalNpEntry> nps)
 {
+    const Section section(out, "hal");
     out.line(level);
     out.line(level, "Platform Bridge HAL context:");
     print_flags(out, level + 1, "Flags", hal_flags, bridge.flags);
@@ -29,6 +30,7 @@ void print_bridge_hal_context(Output &out, std::uint32_t level, const BridgeHalC
         if (entry.members() == 0) {
             continue;
         }
+        const Element of_np(out, "nps");
         out.line(level + 1, "NP: %d, shg 0 members: %d, shg 1 members: %d, shg 2 members: %d", np, entry.shg_members[0],
                  entry.shg_members[1], entry.shg_members[2]);
         out.line(level + 1, "MAC limit counter index: 0x%08x", entry.mac_limit_counter_index);

@@ -20,7 +20,7 @@ static constexpr FlagTable member_flags{{
 /// Flags and values share a line. After "None", the first value follows without a comma. When the values wrap, they
 /// continue at the column of the member's heading, left of where the line begins.
 static void print_copy(Output &out, std::uint32_t level, int heading_column, const BridgeMemberRecord &member,
-                       std::uint32_t irl_shg0_bound_members)
+                       const StoredU16 &irl_shg0_bound_members)
 {
     List line{out, level, "Flags"};
     line.flags(member_flags, member.flags);
@@ -42,9 +42,10 @@ static void print_copy(Output &out, std::uint32_t level, int heading_column, con
 }
 
 void print_bridge_member(Output &out, std::uint32_t level, std::uint32_t member,
-                         std::span<Received<BridgeMemberRecord>> copies, std::uint32_t irl_shg0_bound_members)
+                         std::span<Received<BridgeMemberRecord>> copies, const StoredU16 &irl_shg0_bound_members)
 {
     for (std::uint32_t copy = 0; copy < copies.size(); ++copy) {
+        const Element of_copy(out, "members");
         const int heading_column = out.line(level);
         out.text("Bridge Member %d, copy %d ", member, copy);
         print_copy(out, level + 1, heading_column, copies[copy].to_host(), irl_shg0_bound_members);
@@ -55,6 +56,7 @@ void print_pw_bvi_member(Output &out, std::uint32_t level, std::uint32_t member,
                          std::span<Received<BridgeMemberRecord>> copies)
 {
     for (std::uint32_t copy = 0; copy < copies.size(); ++copy) {
+        const Element of_copy(out, "pw_over_bvi_members");
         out.line(level, "PW-BVI Bridge Member %d, copy %d ", member, copy);
         List line{out, level + 1};
         line.item("XID: 0x%08x", copies[copy].to_host().xid);

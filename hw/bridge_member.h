@@ -39,7 +39,7 @@ constexpr std::uint32_t bridge_member_copies = 2;
 
 /// Prints both copies of a member; `irl_shg0_bound_members` is the NP's.
 void print_bridge_member(Output &out, std::uint32_t level, std::uint32_t member,
-                         std::span<Received<BridgeMemberRecord>> copies, std::uint32_t irl_shg0_bound_members);
+                         std::span<Received<BridgeMemberRecord>> copies, const StoredU16 &irl_shg0_bound_members);
 
 /// Prints both copies of a member that is a pseudowire over a BVI.
 void print_pw_bvi_member(Output &out, std::uint32_t level, std::uint32_t member,

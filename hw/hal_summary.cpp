@@ -21,11 +21,15 @@ static void print_summary(Output &out, std::span<const BigU32> high_water_marks,
 {
     out.text("  MAC Counter Utilization High Water Mark:\n");
     for (std::size_t np = 0; np < high_water_marks.size(); ++np) {
-        out.text("  NP-%d:%d", static_cast<std::uint32_t>(np), high_water_marks[np]);
+        const Element of_np(out, "nps");
+        out.text("  NP-%d:%d", static_cast<std::uint32_t>(np),
+                 from_field(high_water_marks[np].value(), high_water_marks[np], "mac_counter_high_water_mark"));
     }
     out.text("\n  NP HW Resource Status:\n");
     for (std::size_t np = 0; np < resource_status.size(); ++np) {
-        out.text("  NP-%d: 0x%04x", static_cast<std::uint32_t>(np), resource_status[np]);
+        const Element of_np(out, "resource_status");
+        out.text("  NP-%d: 0x%04x", static_cast<std::uint32_t>(np),
+                 from_field(resource_status[np].value(), resource_status[np], "status"));
     }
     out.text("\n  Platform HAL Shared Mem Flags: 0x%04x\n", totals.flags);
     out.text("  L2VPN Load Balance Type: 0x%0x\n", totals.load_balance_type);
@@ -49,12 +53,14 @@ uint32_t zel_l2fib_trident_print_summary(uint32_t /*hw_arg*/, uint8_t *show_data
     const auto [marks, status, totals] =
         cursor.take_together<const BigU32, const BigU16, const HalSummaryTotals>(nps, nps, 1);
 
+    const Section hardware(out, "hw");
     print_heading(out);
     if (!totals.empty()) {
         print_summary(out, marks, status, totals.front());
     }
     const std::uint64_t record_size = sizeof(BigU32) + cursor.end();
     if (size != record_size) { // a negative number where the show data ends early
+        const Failure failure(out);
         out.text("  Show bag corrupted buffer size: %d\n", static_cast<std::uint32_t>(size - record_size));
     }
     return 0;

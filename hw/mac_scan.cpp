@@ -28,15 +28,18 @@ static constexpr Literal state_names[] = {
 };
 static_assert(std::size(state_names) == mac_scan_states);
 
-[[gnu::always_inline]] static inline void print_count(Output &out, const Format<Literal, U32> &format,
-                                                      const Literal &name, U32 count)
+[[gnu::always_inline]] static inline void print_count(Output &out, const char *elements, const char *key,
+                                                      const Format<Literal, FromField<std::uint32_t>> &format,
+                                                      const Literal &name, const U32 &count)
 {
     if (count != 0) {
-        out.text<Literal, U32>(format, name, count);
+        const Element of_name(out, elements);
+        note(out, "name", name);
+        out.text<Literal, FromField<std::uint32_t>>(format, name, from_field(count.value(), count, key));
     }
 }
 
-[[gnu::always_inline]] static inline void print_error_count(Output &out, const Format<U32> &format, U32 count)
+[[gnu::always_inline]] static inline void print_error_count(Output &out, const Format<U32> &format, const U32 &count)
 {
     if (count != 0) {
         out.text<U32>(format, count);
@@ -46,14 +49,18 @@ static_assert(std::size(state_names) == mac_scan_states);
 void print_mac_scan(Output &out, const MacScan &scan)
 {
     for (unsigned event = 0; event < mac_scan_events; ++event) {
-        print_count(out, "Mac scan event          %20s %10d\n", event_names[event], scan.events[event]);
+        print_count(out, "events", "count", "Mac scan event          %20s %10d\n", event_names[event],
+                    scan.events[event]);
     }
     for (unsigned state = 0; state < mac_scan_states; ++state) {
-        print_count(out, "Mac scan state          %20s %10d\n", state_names[state], scan.states[state]);
+        print_count(out, "states", "count", "Mac scan state          %20s %10d\n", state_names[state],
+                    scan.states[state]);
     }
     for (unsigned state = 0; state < mac_scan_states; ++state) {
-        print_count(out, "Mac scan sent count     %20s %10d\n", state_names[state], scan.sent[state]);
-        print_count(out, "Mac scan response count %20s %10d\n", state_names[state], scan.responses[state]);
+        print_count(out, "messages", "sent", "Mac scan sent count     %20s %10d\n", state_names[state],
+                    scan.sent[state]);
+        print_count(out, "messages", "responses", "Mac scan response count %20s %10d\n", state_names[state],
+                    scan.responses[state]);
     }
     print_error_count(out, "Mac scan sent count error %10d\n", scan.sent_errors);
     print_error_count(out, "Mac scan response count error %10d\n", scan.response_errors);

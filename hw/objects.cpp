@@ -9,6 +9,7 @@ std::uint32_t report_failure(Output &out, std::uint32_t level, const Literal &vi
                              std::uint32_t status, const Literal &line_end)
 {
     if (status != 0) {
+        const Failure failure(out);
         out.line(level, "%s: print handler failed for objtype %d : %s%s", view, objtype, status_text(status), line_end);
     }
     return status;

@@ -9,7 +9,7 @@ namespace l2fib
 {
 
 /// The block has an entry for each NP that is printed, in their order.
-static std::uint32_t print_ingress(Output &out, std::uint32_t level, NpRange nps, std::uint32_t xid,
+static std::uint32_t print_ingress(Output &out, std::uint32_t level, NpRange nps, const U32 &xid,
                                    ShowDataCursor &cursor)
 {
     for (std::uint32_t np = nps.first; np < nps.end; ++np) {
@@ -17,6 +17,8 @@ static std::uint32_t print_ingress(Output &out, std::uint32_t level, NpRange nps
         if (entry == nullptr) {
             return L2FIB_SHOW_ERR_DATA;
         }
+        const Element of_np(out, "nps");
+        note(out, "np", np);
         out.line(level);
         print_xid_entry(out, level + 1, xid, entry->to_host());
     }
@@ -24,14 +26,14 @@ static std::uint32_t print_ingress(Output &out, std::uint32_t level, NpRange nps
 }
 
 /// Each NP is indented one level deeper than the one before it.
-static std::uint32_t print_egress(Output &out, std::uint32_t level, NpRange nps, std::uint32_t xid,
-                                  ShowDataCursor &cursor)
+static std::uint32_t print_egress(Output &out, std::uint32_t level, NpRange nps, const U32 &xid, ShowDataCursor &cursor)
 {
     for (std::uint32_t np = nps.first; np < nps.end; ++np, ++level) {
         auto *entry = cursor.take<Received<XidEntry>>();
         if (entry == nullptr) {
             return L2FIB_SHOW_ERR_DATA;
         }
+        const Element of_np(out, "nps");
         out.line(level, "NP%d", np);
         print_xid_entry(out, level + 1, xid, entry->to_host());
     }

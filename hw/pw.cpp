@@ -38,6 +38,7 @@ static std::uint32_t print_point_to_point(Output &out, std::uint32_t level, Show
     }
     const PwContext &pw = parts->rp.context.converted_before();
     for (PwNpRecord &record : records) {
+        const Element of_np(out, "nps");
         out.line(level, "NP%d", record.np);
         print_xid_entry(out, level + 1, pw.xid, record.xid.to_host());
     }
@@ -46,8 +47,11 @@ static std::uint32_t print_point_to_point(Output &out, std::uint32_t level, Show
 
 /// Prints where a path leaves the router. When the line wraps before one of the values, it continues at the line's
 /// indentation.
-static void print_path(List &line, const PathDescriptor &path)
+static void print_path(Output &out, const char *key, List &line, const PathDescriptor &path)
 {
+    const Section section(out, key);
+    note(out, "ifhandle_valid", path.flags.test(PathDescriptor::ifhandle_valid));
+    note(out, "lag", path.flags.test(PathDescriptor::lag));
     if (!path.flags.test(PathDescriptor::ifhandle_valid)) {
         line.item("ifhandle invalid");
         return;
@@ -61,18 +65,20 @@ static void print_path(List &line, const PathDescriptor &path)
 static void print_paths(Output &out, std::uint32_t level, const Layer3Paths &paths)
 {
     List primary{out, level, "Primary L3 path"};
+    note(out, "unresolved", paths.state.flags.test(PathState::unresolved));
+    note(out, "backup_set", paths.state.flags.test(PathState::backup_valid));
     if (paths.state.flags.test(PathState::unresolved)) {
         primary.item("Unresolved"); // without a primary path there is no backup
         return;
     }
-    print_path(primary, paths.primary);
+    print_path(out, "primary", primary, paths.primary);
 
     List backup{out, level, "Backup L3 path"};
     if (!paths.state.flags.test(PathState::backup_valid)) {
         backup.item("Not set");
         return;
     }
-    print_path(backup, paths.backup);
+    print_path(out, "backup", backup, paths.backup);
 }
 
 /// Prints the ingress part if all of it is there. It is read from copies: the show data stays as received.
@@ -127,6 +133,7 @@ static std::uint32_t print_vpls(Output &out, std::uint32_t level, std::uint32_t 
     }
     const PwContext &pw = parts->rp.context.converted_before();
     for (std::uint32_t np = 0; np < np_count; ++np) {
+        const Element of_np(out, "nps");
         out.line(level, "NP%d", np);
         print_xid_entry(out, level + 1, pw.xid, entries[np].to_host());
     }

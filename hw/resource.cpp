@@ -17,7 +17,8 @@ namespace l2fib
 constexpr Literal resource_view = "zel_l2fib_trident_print_resource";
 
 static constexpr Literal operation_names[] = {"Set", "Modify", "Clear", "Get", "Get Info", "Delete All"};
-static_assert(std::size(operation_names) == resource_operations);
+static constexpr const char *operation_keys[] = {"set", "modify", "clear", "get", "get_info", "delete_all"};
+static_assert(std::size(operation_names) == resource_operations && std::size(operation_keys) == resource_operations);
 enum Operation : unsigned { modify = 1, get = 3, delete_all = 5 };
 
 struct ResourceType {
@@ -78,9 +79,12 @@ struct ColumnTotal {
 static void print_counts(Output &out, const ResourceType &type, const ResourceUse &use,
                          ColumnTotal (&totals)[resource_operations])
 {
+    const Element of_type(out, "requests");
+    note(out, "type", type.name);
     out.text("%13s ", type.name);
     for (unsigned i = 0; i < resource_operations; ++i) {
         const ResourceOperation &operation = use.operations[i];
+        const Section section(out, operation_keys[i]);
         if (!is_set(type.operations, i)) {
             out.text("    -/-     ");
             continue;
@@ -97,14 +101,15 @@ static void print_counts(Output &out, const ResourceType &type, const ResourceUs
 }
 
 /// Learned MACs have no requests to count, only entries.
-static void print_mac_counts(Output &out, std::uint32_t total_macs, U32 maximum)
+static void print_mac_counts(Output &out, const BigU32 &total_macs, const U32 &maximum)
 {
+    const Section section(out, "macs");
     out.text("%13s ", "TOTAL MAC");
     out.text("    -/-    ");
     for (unsigned operation = 1; operation < resource_operations; ++operation) {
         out.text("     -/-    ");
     }
-    out.text("%6d/%-6d\n", total_macs, maximum);
+    out.text("%6d/%-6d\n", from_field(total_macs.value(), total_macs, "in_use"), maximum);
 }
 
 static void print_count_totals(Output &out, const ColumnTotal (&totals)[resource_operations])
@@ -115,25 +120,31 @@ static void print_count_totals(Output &out, const ColumnTotal (&totals)[resource
     }
     out.text("\n%13s ", "Total");
     for (const ColumnTotal &total : totals) {
-        out.text("%5d/%-5d ", total.t_count, total.f_count);
+        out.text("%5d/%-5d ", again(total.t_count), again(total.f_count));
     }
     out.text("\n\n");
 }
 
 /// Prints the first nine characters of a time: "59 m 59 s" loses its closing blank.
-static void print_time(Output &out, std::uint64_t time)
+template <class Time>
+static void print_time(Output &out, const Time &time)
 {
-    constexpr std::size_t longest = 9;
-    Text text = elapsed_text(time);
-    text.size = std::min(text.size, longest);
-    out.text("%11s", text);
+    out.text("%11s", made_from(time, [](std::uint64_t ns) {
+                 constexpr std::size_t longest = 9;
+                 Text text = elapsed_of(ns);
+                 text.size = std::min(text.size, longest);
+                 return text;
+             }));
 }
 
 static void print_times(Output &out, const ResourceType &type, const ResourceUse &use,
                         ColumnTotal (&totals)[resource_operations])
 {
+    const Element of_type(out, "times");
+    note(out, "type", type.name);
     out.text("%13s ", type.name);
     for (unsigned i = 0; i < resource_operations; ++i) {
+        const Section section(out, operation_keys[i]);
         print_time(out, use.operations[i].time);
         totals[i].time += use.operations[i].time;
     }
@@ -156,7 +167,7 @@ public:
     UsesOfNp(const ResourceData &received, std::uint32_t np)
     {
         for (unsigned type = 0; type < resource_types; ++type) {
-            copies_[type] = received.uses[type][np];
+            copy_bytes(&copies_[type], &received.uses[type][np], sizeof copies_[type]);
             copies_[type].to_host();
         }
     }
@@ -167,8 +178,9 @@ private:
     Received<ResourceUse> copies_[resource_types];
 };
 
-static void print_np(Output &out, std::uint32_t np, const ResourceData &received, std::uint32_t total_macs)
+static void print_np(Output &out, std::uint32_t np, const ResourceData &received, const BigU32 &total_macs)
 {
+    const Element of_np(out, "nps");
     const UsesOfNp uses(received, np);
     ColumnTotal totals[resource_operations];
     out.text("\n"
@@ -208,6 +220,7 @@ static std::uint32_t print_resource_data(Output &out, std::uint32_t level, ShowD
     }
     const std::uint64_t expected = sizeof(ResourceData) + sizeof(BigU32) * np_count;
     if (const std::uint64_t size = size_to_judge(length, expected, data); size != expected) {
+        const Failure failure(out);
         out.line(level, "%s: invalid data size: %d, expecting %d\n", resource_view, // both less the NP count
                  static_cast<std::uint32_t>(size - sizeof(BigU32)),
                  static_cast<std::uint32_t>(expected - sizeof(BigU32)));
@@ -220,6 +233,7 @@ static std::uint32_t print_resource_data(Output &out, std::uint32_t level, ShowD
     }
     out.text("\n");
     for (std::uint32_t np = 0; np < np_count; ++np) {
+        const Element of_np(out, "mac_scans");
         out.text("                     Mac Scan Summary - NP%d\n", np);
         out.text("%s", rule);
         print_mac_scan(out, HostCopy(received->mac_scans[np]).record());

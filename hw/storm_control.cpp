@@ -9,23 +9,26 @@ namespace l2fib
 
 enum StormControlStatus : std::uint32_t { status_none = 0, status_config = 3 };
 
-static Literal status_name(std::uint32_t status)
+static auto status_name(const U32 &status)
 {
     static constexpr Literal names[] = {"None", "Disable", "Alloc", "Config", "Alloc Failed", "Config Failed"};
     return name_of(names, status, "Invalid");
 }
 
 static constexpr Literal traffic_names[] = {"Broadcast", "Multicast", "Unknown Unicast"};
-static_assert(std::size(traffic_names) == storm_traffic_types);
+static constexpr const char *traffic_keys[] = {"broadcast", "multicast", "unknown_unicast"};
+static_assert(std::size(traffic_names) == storm_traffic_types && std::size(traffic_keys) == storm_traffic_types);
 
 static void print_configuration(Output &out, std::uint32_t level, const StormControlConfig &config)
 {
     out.line(level, "Storm Control Configuration:");
     for (unsigned type = 0; type < storm_traffic_types; ++type) {
         const StormControlConfig::Limit &limit = config.limits[type];
+        const Section section(out, traffic_keys[type]);
+        note(out, "enabled", limit.enabled);
         out.text(" %s: ", traffic_names[type]);
         if (limit.enabled) {
-            out.text("%d %s", limit.rate, config.kbps ? "kbps," : "pps,");
+            out.text("%d %s", *limit.rate, config.kbps ? "kbps," : "pps,");
         } else {
             // Only a rate is followed by a comma at the end of the line.
             out.text("%s", type + 1 < storm_traffic_types ? "Disabled," : "Disabled");
@@ -46,6 +49,8 @@ static void print_rows(Output &out, std::uint32_t level, const StormControlState
 {
     for (unsigned type = 0; type < storm_traffic_types; ++type) {
         const StormControlTraffic &traffic = state.traffic[type];
+        const Element row(out, "traffic");
+        note(out, "type", traffic_names[type]);
         if (traffic.status == status_config) {
             out.line(level, "%-15s|%-13s|%-8d|%-13d|0x%-13x|%-10d|%-2d", traffic_names[type],
                      status_name(traffic.status), profile.rate[type],
@@ -58,7 +63,7 @@ static void print_rows(Output &out, std::uint32_t level, const StormControlState
     }
 }
 
-StormControlConfig storm_control_config(const FeatureFlags &features, const std::int32_t (&rates)[storm_traffic_types],
+StormControlConfig storm_control_config(const FeatureFlags &features, const S32 *const (&rates)[storm_traffic_types],
                                         bool kbps)
 {
     return {.limits = {{features.features.test(FeatureFlags::storm_control_broadcast), rates[0]},
@@ -76,6 +81,7 @@ bool has_storm_control(const StormControlState &state)
 void print_storm_control(Output &out, std::uint32_t level, const StormControlConfig &config,
                          const StormControlState &state, const StormControlProfile &profile, std::uint32_t np)
 {
+    note(out, "unit", config.kbps ? "kbps" : "pps");
     print_configuration(out, level, config);
     print_table_head(out, level, config.kbps);
     print_rows(out, level, state, profile, static_cast<std::uint8_t>(np));

@@ -25,13 +25,10 @@ static_assert(sizeof(StormControlProfile) == 20);
 /// What is configured, by traffic type: broadcast, multicast, unknown unicast.
 struct StormControlConfig {
     struct Limit {
-        bool enabled;
-        std::int32_t rate;
+        FromField<bool> enabled;
+        const S32 *rate;
     };
     Limit limits[storm_traffic_types];
-
-    using R = StormControlConfig;
-    using Fields = l2fib::Fields<&R::limits>;
     bool kbps; // the unit of the rates; packets per second otherwise
 
     [[nodiscard]] bool any_enabled() const
@@ -41,7 +38,7 @@ struct StormControlConfig {
 };
 
 /// The configuration by the enabled features, with the rates in the order of the traffic types.
-StormControlConfig storm_control_config(const FeatureFlags &features, const std::int32_t (&rates)[storm_traffic_types],
+StormControlConfig storm_control_config(const FeatureFlags &features, const S32 *const (&rates)[storm_traffic_types],
                                         bool kbps);
 
 /// Whether an NP has applied storm control at all: the state for broadcast tells.

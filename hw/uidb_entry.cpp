@@ -167,10 +167,14 @@ static bool is_set(const UidbEntry &entry, UidbFlag flag)
 static void print_flag_line(Output &out, std::uint32_t level, bool ingress, const UidbEntry &entry)
 {
     List line{out, level, "Flags"};
+    const Flags all(out, entry.flags);
     const auto list = [&](std::span<const UidbFlagItem *const> items) {
         for (const UidbFlagItem *item : items) {
             const Literal &text = is_set(entry, item->flag) ? item->text : item->text_when_clear;
-            line.item_if(text.size != 0, "%s", text);
+            if (text.size != 0) {
+                line.item("%s", text);
+                all.add(text);
+            }
         }
     };
     const bool selected = is_set(entry, UidbEntry::group_selector);
@@ -310,6 +314,7 @@ static void print_egress_lines(Output &out, std::uint32_t level, const UidbEntry
 
 static void print_uidb_entry(Output &out, std::uint32_t level, bool ingress, const UidbEntry &entry)
 {
+    const Section section(out, "uidb");
     out.line(level, "%s uIDB: ", ingress ? "Ingress" : "Egress");
     print_flag_line(out, level + 1, ingress, entry);
     if (ingress) {
@@ -327,6 +332,7 @@ void show_uidb_entry(Output &out, std::uint32_t level, std::uint32_t direction, 
     if (status == 0) {
         print_uidb_entry(out, level, ingress, entry.to_host()); // 0 may be converted twice
     } else if (ingress || service != 0) {
+        const Failure failure(out);
         out.line(level, "ERROR: Failed to retrieve UIDB: %s", status_text(status));
     }
 }

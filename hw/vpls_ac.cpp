@@ -24,6 +24,7 @@ static Record *record_of(std::span<Record> records, std::uint32_t np)
 static std::uint32_t print_np_without_record(Output &out, std::uint32_t level, std::uint32_t np)
 {
     out.line(level, "NP%d", np);
+    const Failure failure(out);
     out.line(level + 1, "Invalid NP ID");
     return 0;
 }
@@ -36,6 +37,7 @@ static void print_np(Output &out, std::uint32_t level, std::uint32_t direction, 
     print_xid_entry(out, level + 1, ac.xid, record.xid.to_host());
     if (bports_present) {
         for (Received<Bport> &bport : record.bports) {
+            const Element of_bport(out, "bridge_ports");
             print_bport(out, level + 1, bport.to_host());
         }
     }
@@ -52,6 +54,7 @@ static std::uint32_t print_egress(Output &out, std::uint32_t level, const AcCont
     }
     const NpRange nps = np_range(ac.requested_np, np_count);
     for (std::uint32_t np = nps.first; np < nps.end; ++np) {
+        const Element of_np(out, "nps");
         VplsNpRecord *record = record_of(records, np);
         if (record == nullptr) {
             return print_np_without_record(out, level, np);
@@ -64,12 +67,15 @@ static std::uint32_t print_egress(Output &out, std::uint32_t level, const AcCont
 static void print_storm_control_of_np(Output &out, std::uint32_t level, const BridgePortContext &port, std::uint32_t np,
                                       Received<StormControlProfile> &profile)
 {
+    const Section section(out, "storm_control");
     const bool kbps = (port.storm_control_unit & BridgePortContext::storm_control_in_kbps) != 0;
     const StormControlConfig config = storm_control_config(
-        port.features, {port.broadcast_rate, port.multicast_rate, port.unknown_unicast_rate}, kbps);
+        port.features, {&port.broadcast_rate, &port.multicast_rate, &port.unknown_unicast_rate}, kbps);
+    note(out, "enabled", config.any_enabled());
     if (!config.any_enabled()) {
         out.line(level, "Storm Control not enabled");
     } else if (np >= std::size(port.storm_control)) {
+        const Failure failure(out);
         out.line(level, "Invalid NP ID");
     } else if (const StormControlState &state = port.storm_control[np].value(); has_storm_control(state)) {
         print_storm_control(out, level, config, state, profile.to_host(), np);
@@ -90,6 +96,7 @@ static std::uint32_t print_ingress(Output &out, std::uint32_t level, const AcCon
 
     const NpRange nps = np_range(ac.requested_np, np_count);
     for (std::uint32_t np = nps.first; np < nps.end; ++np) {
+        const Element of_np(out, "nps");
         VplsIngressNpRecord *record = record_of(records, np);
         if (record == nullptr) {
             return print_np_without_record(out, level, np);

@@ -7,7 +7,7 @@
 namespace l2fib
 {
 
-static Literal xid_type_name(std::uint32_t type)
+static auto xid_type_name(const U32 &type)
 {
     static constexpr Literal names[] = {
         "Unknown",   "AC",  "Bundle",  "Pseudowire (no control word)", "Pseudowire (with control word)",
@@ -64,7 +64,7 @@ static void print_ac_lines(Output &out, std::uint32_t level, const XidEntry &ent
 
     List ports{out, level};
     ports.item("SVP Index: 0x%x ", entry.virtual_port);
-    ports.item("DVP Index: 0x%x ", entry.virtual_port);
+    ports.item("DVP Index: 0x%x ", again(entry.virtual_port));
 
     List translation{out, level};
     translation.item("Ing Xlate: %d ", entry.translation.test(XidEntry::ingress_translation));
@@ -80,7 +80,8 @@ static void print_bundle_line(Output &out, std::uint32_t level, const XidEntry &
     if (entry.flags.test(XidEntry::load_balance_flow_based)) {
         line.item("EFP egress hash: %s", "Flow Based");
     } else {
-        line.item("EFP egress hash: %s, value = %d", "XID value based", entry.efp_egress_hash + 1);
+        line.item("EFP egress hash: %s, value = %d", "XID value based",
+                  from_field(entry.efp_egress_hash + 1, entry.efp_egress_hash));
     }
 }
 
@@ -91,12 +92,13 @@ static void print_pw_lines(Output &out, std::uint32_t level, const XidEntry &ent
     List ports{out, level};
     ports.item("VPN Id: 0x%x ", entry.vpn_id);
     ports.item("SVP Index: 0x%x ", entry.virtual_port);
-    ports.item("DVP Index: 0x%x ", entry.virtual_port);
+    ports.item("DVP Index: 0x%x ", again(entry.virtual_port));
 
     List labels{out, level};
     labels.item("h/w disp_vc_label: %d ", entry.disposition_label);
     labels.item("h/w imp_vc_label: %d ", entry.imposition_label);
-    labels.item("control_word_enabled: %d ", entry.type == XidEntry::type_pw_control_word);
+    labels.item("control_word_enabled: %d ",
+                from_field(entry.type == XidEntry::type_pw_control_word, entry.type, "control_word_enabled"));
     labels.item("nh_index: %d ", entry.nh_index);
     labels.item("bcm_tunnel_if: %d ", entry.tunnel_interface);
 }
@@ -119,8 +121,9 @@ static void print_storm_control_line(Output &out, std::uint32_t level, const Xid
     line.flags(storm_control_flags, entry.flags);
 }
 
-void print_xid_entry(Output &out, std::uint32_t level, std::uint32_t xid, const XidEntry &entry)
+void print_xid_entry(Output &out, std::uint32_t level, const U32 &xid, const XidEntry &entry)
 {
+    const Section section(out, "xid");
     List header{out, level};
     header.item("Xconnect ID: 0x%08x", xid);
 

@@ -61,6 +61,6 @@ static_assert(sizeof(XidEntry) == 188 && offsetof(XidEntry, bridge_domain) == 13
               offsetof(XidEntry, tunnel_interface) == 170);
 
 /// Prints the entry that an NP holds for a cross-connect.
-void print_xid_entry(Output &out, std::uint32_t level, std::uint32_t xid, const XidEntry &entry);
+void print_xid_entry(Output &out, std::uint32_t level, const U32 &xid, const XidEntry &entry);
 
 } // namespace l2fib

@@ -55,6 +55,7 @@ static void print_ac(Output &out, const AcContext &ac)
 
 static void print_bridge_port(Output &out, const BridgePortContext &port)
 {
+    const Section section(out, "bridge_port");
     out.text("\nBridge Port Context\n-------------------\n");
     TwoColumns values{out, "\t\t "};
     values.line("Bridge id          : %d", port.bridge_id);

@@ -45,10 +45,25 @@ static constexpr PortFlag port_flags[] = {
 };
 
 /// In small letters, unlike the other names.
-static Literal p2mp_role_name(std::uint32_t role)
+static auto p2mp_role_name(const U32 &role)
 {
     static constexpr Literal names[] = {"unknown", "head", "mid", "bud", "tail"};
     return name_of(names, role, "invalid");
+}
+
+static void print_port_flags(Output &out, const BridgePortContext &port)
+{
+    List line{out, 2, "Flags"};
+    const Flags all(out, port.flags, port.features.features, port.features.more);
+    const std::uint32_t words[] = {set_flags(port.flags), set_flags(port.features.features),
+                                   set_flags(port.features.more)}; // by PortFlag::Word
+    for (const PortFlag &flag : port_flags) {
+        if (is_set(words[flag.word], flag.number)) {
+            line.item("%s", flag.text);
+            all.add(flag.text);
+        }
+    }
+    line.none_if_empty();
 }
 
 static void print_bridge_port(Output &out, std::uint32_t direction, std::uint8_t *show_data)
@@ -62,13 +77,7 @@ static void print_bridge_port(Output &out, std::uint32_t direction, std::uint8_t
     print_direction(summary, direction);
     summary.item("State: %s", state_name(port.state));
 
-    List flags{out, 2, "Flags"};
-    const std::uint32_t words[] = {set_flags(port.flags), set_flags(port.features.features),
-                                   set_flags(port.features.more)}; // by PortFlag::Word
-    for (const PortFlag &flag : port_flags) {
-        flags.item_if(is_set(words[flag.word], flag.number), "%s", flag.text);
-    }
-    flags.none_if_empty();
+    print_port_flags(out, port);
 
     const auto &features = port.features.features;
     List forwarding{out, 2};
@@ -77,6 +86,7 @@ static void print_bridge_port(Output &out, std::uint32_t direction, std::uint8_t
     forwarding.item_if(features.test(FeatureFlags::mac_sec_enable), "mac_secure_action: %d",
                        features.get(FeatureFlags::mac_secure_action));
     if (port.flags.test(BridgePortContext::p2mp_pw_enabled)) {
+        note(out, "p2mp_pw_enabled", true);
         forwarding.item("P2MP PW enabled");
         forwarding.item("P2MP Role: %s", p2mp_role_name(port.p2mp_role));
     }

@@ -38,6 +38,8 @@ void print_event_counts(Output &out, const Received<EventCounts> &received)
     out.text("             Create      Modify        Bind       Unbind      Delete\n");
     for (const ObjectKind &kind : object_kinds) {
         const Events<U32> &events = counts->kinds[kind.row];
+        const Element row(out, "counts");
+        note(out, "kind", kind.name);
         out.text(" %-13s%5d        %4d       %5d        %5d       %5d\n", kind.name, events.created, events.modified,
                  events.bound, events.unbound, events.deleted);
     }
@@ -54,9 +56,11 @@ void print_event_times(Output &out, const Received<EventTimes> &received)
     out.text("                  Create     Modify     Delete       Bind     Unbind\n");
     for (const ObjectKind &kind : object_kinds) {
         const Events<U64> &events = times->kinds[kind.row];
+        const Element row(out, "times");
+        note(out, "kind", kind.name);
         out.text(" %-13s", kind.name);
-        for (const U64 time : {events.created, events.modified, events.deleted, events.bound, events.unbound}) {
-            out.text("%11s", elapsed_text(time));
+        for (const U64 *time : {&events.created, &events.modified, &events.deleted, &events.bound, &events.unbound}) {
+            out.text("%11s", elapsed_text(*time));
         }
         out.text("\n");
     }

@@ -6,8 +6,9 @@
 namespace l2fib
 {
 
-static void print_descriptor(Output &out, const PathDescriptor &path)
+static void print_descriptor(Output &out, const char *key, const PathDescriptor &path)
 {
+    const Section section(out, key);
     TwoColumns values{out, "\t "};
     values.item("is lag            : %d", path.flags.get(PathDescriptor::lag));
     values.item("sfp/lag id      : %d ", path.sfp_or_lagid);
@@ -19,17 +20,18 @@ static void print_descriptor(Output &out, const PathDescriptor &path)
 
 static void print_path(Output &out, const IgpPath &path)
 {
-    const bool backup_valid = path.state.flags.test(PathState::backup_valid);
+    const Element of_path(out, "paths");
+    const auto backup_valid = path.state.flags.get(PathState::backup_valid);
     out.text("\nIGP Path\n--------\n");
     TwoColumns values{out, "\t "};
     values.item("is unresolved     : %d", path.state.flags.get(PathState::unresolved));
-    values.item("is bkup valid   : %d", backup_valid ? 1 : 0);
+    values.item("is bkup valid   : %d", backup_valid);
 
     out.text("\nPrimary Path\n------------\n");
-    print_descriptor(out, path.primary);
-    if (backup_valid) {
+    print_descriptor(out, "primary", path.primary);
+    if (backup_valid != 0) {
         out.text("\nBackup Path\n-----------\n");
-        print_descriptor(out, path.backup);
+        print_descriptor(out, "backup", path.backup);
     }
 }
 

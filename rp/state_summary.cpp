@@ -15,6 +15,8 @@ void print_state_summary(Output &out, const Received<StateSummary> &received)
     for (const ObjectKind &kind : object_kinds) {
         if (kind.in_state_summary) {
             const ObjectCounts &counts = summary->kinds[kind.row];
+            const Element row(out, "kinds");
+            note(out, "kind", kind.name);
             out.text(" %-15s%4d       %4d         %4d\n", kind.name, counts.created, counts.bound, counts.unbound);
         }
     }

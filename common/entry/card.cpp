@@ -1,5 +1,6 @@
 #include "common/entry/card.h"
 
+#include "common/recording.h"
 #include "platform/platform.h"
 #include "zel_l2fib/show.h"
 
@@ -16,6 +17,7 @@ bool check_card(Output &out, std::uint32_t node_id)
     if (card_is_supported(node_id)) {
         return true;
     }
+    const Failure failure(out);
     out.text("\nUnsupported card type NONE: %d", 0);
     return false;
 }

@@ -14,6 +14,7 @@ static std::uint32_t show_checked(Output &out, ViewKind view, const ViewRequest 
     const ShowData data = request.data();
     const std::uint64_t end = data.is_null() ? 0 : context_end(view, request);
     if (data.size() < end) {
+        const Failure failure(out);
         out.text("\n%s: data_size is %zd, expecting at least %zd", front_door, data.size(), end);
         return L2FIB_SHOW_ERR_DATA;
     }

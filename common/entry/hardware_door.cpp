@@ -51,19 +51,24 @@ static std::uint32_t show_hardware_detail(Output &out, std::uint32_t level, cons
         out.line(level);
         return wrong_objtype(out, hardware_detail_view, request.objtype);
     }
+    const Section hardware(out, "hw");
     return view(out, level, request.direction, request.data());
 }
 
 static std::uint32_t show_hardware_private(Output &out, std::uint32_t level, const ViewRequest &request)
 {
     const HardwareView view = view_of(request.objtype, &HardwareObject::private_context);
-    return view == nullptr ? wrong_objtype(out, hardware_private_view, request.objtype)
-                           : view(out, level, request.direction, request.data());
+    if (view == nullptr) {
+        return wrong_objtype(out, hardware_private_view, request.objtype);
+    }
+    const Section hardware(out, "hw");
+    return view(out, level, request.direction, request.data());
 }
 
 static std::uint32_t show_hardware_inconsistency(Output &out, std::uint32_t level, const ViewRequest &request)
 {
     if (request.objtype != L2FIB_OBJTYPE_AC) {
+        const Failure failure(out);
         out.line(level, "Hardware object %s not handled", objtype_name(request.objtype));
         return 0;
     }
@@ -71,7 +76,7 @@ static std::uint32_t show_hardware_inconsistency(Output &out, std::uint32_t leve
         return L2FIB_SHOW_ERR_ARGS;
     }
     ShowData report = request.data();
-    return print_report(out, level + 1, report);
+    return print_report(out, level + 1, "hw", report);
 }
 
 std::uint32_t show_hardware(Output &out, std::uint32_t level, const ViewRequest &request)

@@ -38,12 +38,16 @@ static std::uint32_t show_state_summary(Output &out, const SummaryRequest &reque
     if (summary == nullptr || hardware_part.size() == 0) {
         return wrong_summary_size(out, state_summary, data.size());
     }
-    print_state_summary(out, *summary);
+    {
+        const Section rp(out, "rp");
+        print_state_summary(out, *summary);
+    }
     return hand_over(out, request, hardware_part, &zel_l2fib_hal_print_row::summary_print);
 }
 
 static std::uint32_t show_event_statistics(Output &out, const SummaryRequest &request)
 {
+    const Section rp(out, "rp");
     if (request.size == 0) {
         return 0;
     }

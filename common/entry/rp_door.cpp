@@ -67,6 +67,7 @@ std::uint32_t show_detail(Output &out, const ViewRequest &request)
         return wrong_objtype(out, detail_view, request.objtype);
     }
     if (object->detail != nullptr) {
+        const Section rp(out, "rp");
         object->detail->print(out, request.direction, request.show_data);
     }
     const std::uint32_t status = hand_over(out, object->level, request);
@@ -85,7 +86,10 @@ std::uint32_t show_private(Output &out, const ViewRequest &request)
         wrong_objtype(out, private_view, request.objtype);
         return hand_over(out, 1, request);
     }
-    object->private_context->print(out, request.show_data);
+    {
+        const Section rp(out, "rp");
+        object->private_context->print(out, request.show_data);
+    }
     return hand_over(out, object->level, request);
 }
 
@@ -93,10 +97,12 @@ std::uint32_t show_private(Output &out, const ViewRequest &request)
 std::uint32_t show_inconsistency(Output &out, const ViewRequest &request)
 {
     if (!card_is_supported(request.node_id)) {
+        const Failure failure(out);
         out.text("Unsupported card type: NONE");
         return 0;
     }
     if (request.objtype != L2FIB_OBJTYPE_AC) {
+        const Failure failure(out);
         out.line(1, "Platform object %s not handled", objtype_name(request.objtype));
         return 0;
     }
@@ -105,7 +111,7 @@ std::uint32_t show_inconsistency(Output &out, const ViewRequest &request)
     }
     out.text("\n");
     ShowData report = request.data();
-    if (const std::uint32_t status = print_report(out, 1, report); status != 0) {
+    if (const std::uint32_t status = print_report(out, 1, "rp", report); status != 0) {
         return status;
     }
     ViewRequest rest = request;

@@ -1,0 +1,242 @@
+#include "recording/json_recorder.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace recording
+{
+
+std::string key_of_label(std::string_view label)
+{
+    std::string key;
+    for (const char c : label) {
+        const bool is_upper = c >= 'A' && c <= 'Z';
+        const bool is_letter = is_upper || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
+        if (is_letter) {
+            key += is_upper ? static_cast<char>(c - 'A' + 'a') : c;
+        } else if (!key.empty() && key.back() != '_') {
+            key += '_';
+        }
+    }
+    while (!key.empty() && key.back() == '_') {
+        key.pop_back();
+    }
+    return key;
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    const std::size_t begin = std::min(text.find_first_not_of(' '), text.size());
+    return text.substr(begin, text.find_last_not_of(' ') + 1 - begin);
+}
+
+void JsonRecorder::begin(std::span<const std::uint8_t> show_data, std::span<const std::uint8_t> received)
+{
+    map_.begin(show_data);
+    received_ = received;
+    path_.clear();
+    failures_.clear();
+    last_flags_ = nullptr;
+}
+
+void JsonRecorder::end()
+{
+    for (const FailureNote &failure : failures_) {
+        json_.open_element("failures");
+        json_.member("at", std::string_view(failure.at));
+        json_.member("text", std::string_view(failure.text));
+        if (failure.there) {
+            json_.member("there", *failure.there);
+        }
+        if (failure.needed) {
+            json_.member("needed", *failure.needed);
+        }
+        json_.close_object();
+    }
+}
+
+void JsonRecorder::open_section(const char *key)
+{
+    path_.emplace_back(key);
+    last_flags_ = nullptr;
+    json_.open_object(key);
+}
+
+void JsonRecorder::open_element(const char *key)
+{
+    path_.emplace_back(key);
+    last_flags_ = nullptr;
+    json_.open_element(key);
+}
+
+void JsonRecorder::close()
+{
+    path_.pop_back();
+    last_flags_ = nullptr;
+    json_.close_object();
+}
+
+std::string_view JsonRecorder::label_key(std::string_view label)
+{
+    std::string &key = label_keys_[label.data()];
+    if (key.empty()) {
+        key = key_of_label(label.ends_with("0x") ? label.substr(0, label.size() - 2) : label);
+    }
+    return key;
+}
+
+std::string_view JsonRecorder::name_of(const Source &source)
+{
+    const auto place = map_.place_of(source.field);
+    if (!place || place->field == nullptr) {
+        return {};
+    }
+    if (!place->field->is_array) {
+        return place->field->name;
+    }
+    name_ = place->name();
+    return name_;
+}
+
+std::string_view JsonRecorder::key_of(const Value &value)
+{
+    if (value.source.key != nullptr) {
+        return value.source.key;
+    }
+    const std::string_view name =
+        value.source.field == nullptr || value.source.is_part ? std::string_view{} : name_of(value.source);
+    return name.empty() ? label_key(value.label) : name;
+}
+
+/// A member that goes with another one.
+void JsonRecorder::companion(std::string_view key, std::string_view suffix, std::string_view json)
+{
+    companion_ = key;
+    companion_ += suffix;
+    json_.json_member(companion_, json);
+}
+
+static std::string decimal(const Value &value, std::uint64_t number)
+{
+    std::array<char, 24> digits{};
+    char *const begin = digits.data();
+    char *const end = begin + digits.size();
+    const bool is_signed = value.kind == Value::signed_number;
+    const auto result =
+        is_signed ? std::to_chars(begin, end, static_cast<std::int64_t>(number)) : std::to_chars(begin, end, number);
+    const std::string text(begin, result.ptr);
+    return value.is_wide ? '"' + text + '"' : text; // what reads JSON keeps no more than 53 bits of a number
+}
+
+void JsonRecorder::number(std::string_view key, const Value &value)
+{
+    const bool is_signed_32 = value.kind == Value::signed_number && !value.is_wide;
+    // Printed with "%d": the low 32 bits, with their sign.
+    const auto number =
+        is_signed_32 ? static_cast<std::uint64_t>(std::int64_t{static_cast<std::int32_t>(value.number)}) : value.number;
+    json_.json_member(key, decimal(value, number));
+    if (value.kind == Value::hex_number) {
+        companion(key, "_hex",
+                  (value.label.ends_with("0x") ? "\"0x" : "\"") + std::string(trimmed(value.printed)) + '"');
+    }
+}
+
+void JsonRecorder::value(const Value &value)
+{
+    if (in_failure_) {
+        note_failure_number(value);
+        return;
+    }
+    if (value.source.is_said) {
+        return;
+    }
+    const std::string_view key = key_of(value);
+    switch (value.kind) {
+    case Value::truth: json_.member(key, value.number != 0); return;
+    case Value::text: json_.member(key, trimmed(value.printed)); break;
+    default: number(key, value); break;
+    }
+    if (value.source.is_made && value.source.has_number && !value.source.is_part) {
+        const Value raw{Value::unsigned_number, value.source.width == sizeof(std::uint64_t), 0, {}, {}, {}};
+        companion(key, "_raw", decimal(raw, value.source.number));
+    }
+}
+
+void JsonRecorder::open_flags(std::span<const Source> words)
+{
+    flag_words_.assign(words.begin(), words.end());
+    flag_names_.clear();
+    unnamed_ = 0;
+}
+
+void JsonRecorder::flag(std::string_view name)
+{
+    flag_names_.emplace_back(trimmed(name));
+}
+
+void JsonRecorder::unnamed_flags(std::uint32_t bits)
+{
+    unnamed_ = bits;
+}
+
+void JsonRecorder::close_flags()
+{
+    if (flag_words_.front().field == last_flags_) {
+        return; // some of the same flags, once more
+    }
+    last_flags_ = flag_words_.front().field;
+    json_.open_array(name_of(flag_words_.front()));
+    for (const std::string &name : flag_names_) {
+        json_.element(std::string_view(name));
+    }
+    json_.close_array();
+    for (const Source &word : flag_words_) {
+        const auto offset = map_.offset_of(word.field);
+        std::string hex = "\"0x";
+        for (std::size_t i = 0; offset && i < word.width; ++i) {
+            constexpr std::string_view digits = "0123456789abcdef";
+            const std::uint8_t byte = received_[*offset + i];
+            hex += digits[byte >> 4U];
+            hex += digits[byte & 0xfU];
+        }
+        companion(name_of(word), "_raw", hex + '"');
+    }
+    companion_ = name_of(flag_words_.front());
+    companion_ += "_unnamed";
+    json_.open_array(companion_);
+    for (std::uint32_t bits = unnamed_; bits != 0; bits &= bits - 1) {
+        json_.element(static_cast<std::uint64_t>(__builtin_ctz(bits)));
+    }
+    json_.close_array();
+}
+
+void JsonRecorder::open_failure()
+{
+    in_failure_ = true;
+    FailureNote &failure = failures_.emplace_back();
+    for (const std::string_view name : path_) {
+        failure.at += failure.at.empty() ? "" : ".";
+        failure.at += name;
+    }
+}
+
+/// The sizes that a message has.
+void JsonRecorder::note_failure_number(const Value &value)
+{
+    const std::string_view label = value.label;
+    if (label.ends_with("size is ") || label.ends_with("size: ") || label.ends_with("size wrong ")) {
+        failures_.back().there = value.number;
+    } else if (label.ends_with("expecting at least ") || label.ends_with("expecting ")) {
+        failures_.back().needed = value.number;
+    }
+}
+
+void JsonRecorder::close_failure(std::string_view text)
+{
+    in_failure_ = false;
+    const std::size_t begin = std::min(text.find_first_not_of(" \n"), text.size());
+    failures_.back().text = text.substr(begin, text.find_last_not_of(" \n") + 1 - begin);
+}
+
+} // namespace recording

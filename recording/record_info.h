@@ -1,0 +1,116 @@
+// The fields of a record by name, offset and kind, from the list that the record has of them.
+#pragma once
+
+#include "common/record.h"
+#include "recording/recorder.h"
+
+namespace l2fib
+{
+
+template <class Piece>
+struct PieceInfo;
+
+namespace record_fields
+{
+
+using recording::FieldInfo;
+using recording::FieldKind;
+
+template <class FieldType>
+struct KindOf {
+    static constexpr FieldKind kind = RecordWithFields<FieldType> ? FieldKind::record : requires(FieldType f)
+    {
+        f.wire_bits(0U, f.word());
+    }
+    ? FieldKind::packed : FieldKind::bytes;
+};
+template <class Integer>
+struct KindOf<Number<Integer>> {
+    static constexpr FieldKind kind = FieldKind::number;
+};
+template <class Integer>
+struct KindOf<BigEndian<Integer>> {
+    static constexpr FieldKind kind = FieldKind::number;
+};
+template <class Integer>
+struct KindOf<AsStored<Integer>> {
+    static constexpr FieldKind kind = FieldKind::stored;
+};
+template <class Record>
+struct KindOf<Received<Record>> {
+    static constexpr FieldKind kind = FieldKind::record;
+};
+template <class Record>
+struct KindOf<StoredRecord<Record>> {
+    static constexpr FieldKind kind = FieldKind::record;
+};
+
+template <class FieldType>
+constexpr const recording::RecordInfo *record_of()
+{
+    if constexpr (KindOf<FieldType>::kind == FieldKind::record) {
+        return &PieceInfo<FieldType>::info;
+    } else {
+        return nullptr;
+    }
+}
+
+template <class FieldType>
+constexpr FieldInfo field_info(std::string_view name, std::size_t &offset)
+{
+    using One = std::remove_all_extents_t<FieldType>;
+    const std::size_t at = offset;
+    offset += sizeof(FieldType);
+    return {name,
+            at,
+            sizeof(One),
+            sizeof(FieldType) / sizeof(One),
+            std::is_array_v<FieldType>,
+            KindOf<One>::kind,
+            record_of<One>()};
+}
+
+template <class List>
+struct Table;
+template <auto... members>
+struct Table<Fields<members...>> {
+    static constexpr auto make()
+    {
+        std::size_t offset = 0;
+        return std::array{field_info<Type<members>>(field_name<members>(), offset)...};
+    }
+    static constexpr std::array<FieldInfo, sizeof...(members)> fields = make();
+};
+
+template <class Record>
+consteval std::string_view record_name()
+{
+    std::string_view name = __PRETTY_FUNCTION__;
+    name.remove_prefix(name.find("Record = ") + 9);
+    name = name.substr(0, name.find_first_of(";]"));
+    const std::size_t arguments = name.find('<');
+    return name.substr(name.substr(0, arguments).rfind(':') + 1);
+}
+
+} // namespace record_fields
+
+/// Of what lies in show data: a record, received, stored or readable as it is; nothing of single numbers.
+template <class Piece>
+struct PieceInfo {
+    static constexpr recording::RecordInfo info{record_fields::record_name<Piece>(), sizeof(Piece),
+                                                record_fields::Table<typename Piece::Fields>::fields};
+};
+template <class Record>
+struct PieceInfo<Received<Record>> : PieceInfo<Record> {
+};
+template <class Record>
+struct PieceInfo<StoredRecord<Record>> : PieceInfo<Record> {
+};
+
+template <class Piece>
+constexpr const recording::RecordInfo *info_of()
+{
+    return record_fields::record_of<Piece>();
+}
+
+} // namespace l2fib

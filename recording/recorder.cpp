@@ -1,0 +1,8 @@
+#include "recording/recorder.h"
+
+namespace recording
+{
+
+Recorder *current = nullptr;
+
+} // namespace recording

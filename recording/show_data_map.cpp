@@ -1,0 +1,104 @@
+#include "recording/show_data_map.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace recording
+{
+
+std::string Place::name() const
+{
+    std::string name(field->name);
+    if (field->is_array) {
+        name += '_' + std::to_string(index);
+    }
+    return name;
+}
+
+void ShowDataMap::begin(std::span<const std::uint8_t> show_data)
+{
+    show_data_ = show_data;
+    runs_.clear();
+    copies_.clear();
+}
+
+std::optional<std::size_t> ShowDataMap::offset_of(const void *address) const
+{
+    const auto *byte = static_cast<const std::uint8_t *>(address);
+    const auto is_in = [byte](const std::uint8_t *begin, std::size_t size) {
+        return std::greater_equal<>{}(byte, begin) && std::less<>{}(byte, begin + size);
+    };
+    if (is_in(show_data_.data(), show_data_.size())) {
+        return static_cast<std::size_t>(byte - show_data_.data());
+    }
+    for (auto copy = copies_.rbegin(); copy != copies_.rend(); ++copy) {
+        if (is_in(copy->begin, copy->size)) {
+            return copy->offset + static_cast<std::size_t>(byte - copy->begin);
+        }
+    }
+    return std::nullopt;
+}
+
+void ShowDataMap::reached(const RecordInfo *type, const void *first, std::size_t size, std::size_t count)
+{
+    constexpr std::size_t first_kept = 16;
+    constexpr std::size_t last_kept = 48;
+    constexpr std::size_t many = 1024;
+    const auto offset = offset_of(first);
+    if (!offset || type == nullptr || count == 0) {
+        return;
+    }
+    if (runs_.size() >= many && !keeps_all_) {
+        runs_.erase(runs_.begin() + first_kept, runs_.end() - last_kept);
+    }
+    runs_.push_back({*offset, size, count, type});
+}
+
+void ShowDataMap::copied(const void *to, const void *from, std::size_t size)
+{
+    const auto offset = offset_of(from);
+    if (!offset) {
+        return;
+    }
+    // Memory is used again: what was copied there before is gone.
+    const auto *begin = static_cast<const std::uint8_t *>(to);
+    std::erase_if(copies_, [&](const Copy &copy) {
+        return std::less<>{}(copy.begin, begin + size) && std::less<>{}(begin, copy.begin + copy.size);
+    });
+    copies_.push_back({begin, size, *offset});
+}
+
+const ShowDataMap::Run *ShowDataMap::run_at(std::size_t offset) const
+{
+    const auto found = std::find_if(runs_.rbegin(), runs_.rend(), [offset](const Run &run) {
+        return offset >= run.offset && offset - run.offset < run.size * run.count;
+    });
+    return found == runs_.rend() ? nullptr : &*found;
+}
+
+/// The field of a record at an offset of its own.
+static Place place_in(const RecordInfo &type, std::size_t offset)
+{
+    const auto after = std::upper_bound(type.fields.begin(), type.fields.end(), offset,
+                                        [](std::size_t at, const FieldInfo &field) { return at < field.offset; });
+    const FieldInfo &field = *std::prev(after);
+    const std::size_t within = offset - field.offset;
+    if (field.record != nullptr) {
+        return place_in(*field.record, within % field.size);
+    }
+    return {0, &field, within / field.size};
+}
+
+std::optional<Place> ShowDataMap::place_of(const void *address) const
+{
+    const auto offset = offset_of(address);
+    if (!offset) {
+        return std::nullopt;
+    }
+    const Run *run = run_at(*offset);
+    Place place = run == nullptr ? Place{} : place_in(*run->type, (*offset - run->offset) % run->size);
+    place.offset = *offset;
+    return place;
+}
+
+} // namespace recording
