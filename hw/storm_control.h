@@ -29,9 +29,6 @@ struct StormControlConfig {
         std::int32_t rate;
     };
     Limit limits[storm_traffic_types];
-
-    using R = StormControlConfig;
-    using Fields = l2fib::Fields<&R::limits>;
     bool kbps; // the unit of the rates; packets per second otherwise
 
     [[nodiscard]] bool any_enabled() const
