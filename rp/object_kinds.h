@@ -13,8 +13,6 @@ struct ObjectKind {
     unsigned row;
     Literal name;
 
-    using R = ObjectKind;
-    using Fields = l2fib::Fields<&R::name>;
     bool in_state_summary; ///< the event statistics show every kind
 };
 
