@@ -98,8 +98,8 @@ struct IsReadableAsReceived<InRecord> : std::bool_constant<all_are_readable(type
 
 } // namespace record_fields
 
-/// Converts neighbouring numbers of 16 bits in place, four at a time. A bridge has 272 of them. One by one, they add 43%
-/// to the instructions of its private view.
+/// Converts neighbouring numbers of 16 bits in place, four at a time. A bridge has 272 of them. One by one, they add
+/// 43% to the instructions of its private view.
 template <std::size_t count>
 void convert_halves(U16 (&numbers)[count])
 {
