@@ -95,6 +95,7 @@ consteval bool all_are_readable(Fields<members...> /*list*/)
 }
 template <RecordWithFields InRecord>
 struct IsReadableAsReceived<InRecord> : std::bool_constant<all_are_readable(typename InRecord::Fields{})> {
+    static_assert(are_complete<InRecord>(typename InRecord::Fields{}), "a record lists each of its fields");
 };
 
 } // namespace record_fields
