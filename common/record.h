@@ -95,6 +95,7 @@ consteval bool all_are_readable(Fields<members...> /*list*/)
 }
 template <RecordWithFields InRecord>
 struct IsReadableAsReceived<InRecord> : std::bool_constant<all_are_readable(typename InRecord::Fields{})> {
+    static_assert(are_complete<InRecord>(typename InRecord::Fields{}), "a record lists each of its fields");
 };
 
 } // namespace record_fields
@@ -109,8 +110,8 @@ consteval std::string_view field_name()
     return name.substr(name.rfind(':') + 1);
 }
 
-/// Converts neighbouring numbers of 16 bits in place, four at a time. A bridge has over two hundred of them: one by
-/// one, they take its private view from 8.9 to 12.7 instructions for a character of text.
+/// Converts neighbouring numbers of 16 bits in place, four at a time. A bridge has 272 of them. One by one, they add
+/// 43% to the instructions of its private view.
 template <std::size_t count>
 void convert_halves(U16 (&numbers)[count])
 {

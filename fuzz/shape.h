@@ -1,6 +1,6 @@
 // Where the numbers of an input lie that decide what becomes of the rest.
 //
-// Random changes rarely meet them, and so rarely get behind the first check. A mutator that knows them does, and still
+// Random changes rarely meet them, and so rarely get past the first check. A mutator that knows them does, and still
 // makes every other input.
 #pragma once
 
@@ -34,7 +34,7 @@ public:
         Record record; ///< zeros for one that the input ends in
     };
 
-    /// The record behind the last one.
+    /// The record after the last one.
     template <ShowDataPiece Record>
     Placed<Record> add()
     {
@@ -46,7 +46,7 @@ public:
         return placed;
     }
 
-    /// Bytes behind the last record that are of no interest.
+    /// Bytes after the last record that are of no interest.
     void skip(std::size_t size) { ends_.push_back(whole_size() + size); }
 
     template <class Number>

@@ -53,7 +53,7 @@ private:
     const BridgeContext *bridge_ = nullptr;
     const BridgeHalContext *hal_ = nullptr;
     std::span<const BridgeHalNpEntry> hal_nps_;
-    const BridgeFeatureBlock1 *feature_block_1_ = nullptr;           // never null where a flag asks for it
+    const BridgeFeatureBlock1 *feature_block_1_ = nullptr;           // there whenever a flag asks for it
     std::span<Received<BridgeFeatureBlock1Np>> feature_block_1_nps_; // likewise, and converted
     const BridgeMemberCounts *counts_ = nullptr;
     std::uint32_t printed_members_ = 0;
@@ -187,7 +187,7 @@ void BridgeWalk::print_statistics_pointers(std::uint32_t np)
     }
 }
 
-/// Prints the NP's members, until the number of members that the whole bridge has is reached.
+/// Prints the NP's members. All NPs together print no more than the whole bridge has.
 bool BridgeWalk::print_members(std::uint32_t np)
 {
     const BridgeHalNpEntry &hal = hal_nps_[np];

@@ -11,11 +11,8 @@ namespace l2fib
 {
 
 struct BridgeMemberRecord {
-    enum Flag : unsigned {
-        irl_bport = 30,
-        evpn_ole = 29,
-        evpn_label_hash = 27
-    }; // other flags than those of BportEntry
+    // Other flags than those of BportEntry.
+    enum Flag : unsigned { irl_bport = 30, evpn_ole = 29, evpn_label_hash = 27 };
 
     Bytes<4> unread_0;
     HardwareFlags<one_bit(10)> flags; //  4

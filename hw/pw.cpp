@@ -95,7 +95,7 @@ static void print_vpls_ingress(Output &out, std::uint32_t level, ShowDataCursor 
     print_flooding(out, level, port[0]);
     print_paths(out, level, HostCopy(ingress[0].paths).record());
 
-    for (std::uint32_t np = 0; np < np_count; ++np) { // converted, but printed by no line
+    for (std::uint32_t np = 0; np < np_count; ++np) { // no line prints the profiles
         profiles.fill_in(np, received_profiles[np]);
     }
 }

@@ -44,7 +44,7 @@ struct ResourceData {
     Received<MacScan> mac_scans[max_nps];                // 11652
 
     using R = ResourceData;
-    using Fields = l2fib::Fields<&R::np_count, &R::mac_scans>;
+    using Fields = l2fib::Fields<&R::np_count, &R::uses, &R::mac_scans>;
 };
 static_assert(sizeof(ResourceData) == 13252 && offsetof(ResourceData, mac_scans) == 11652);
 

@@ -41,7 +41,7 @@ struct StormControlConfig {
 StormControlConfig storm_control_config(const FeatureFlags &features, const S32 *const (&rates)[storm_traffic_types],
                                         bool kbps);
 
-/// Whether an NP has applied storm control at all: the state for broadcast tells.
+/// Whether an NP has applied storm control. The state for broadcast decides.
 bool has_storm_control(const StormControlState &state);
 
 /// Prints the configuration and the table of what an NP made of it.

@@ -62,7 +62,7 @@ struct VplsIngressBlock {
 };
 static_assert(sizeof(VplsIngressBlock) == 2596);
 
-/// Closes the ingress block, after its records.
+/// The end of the ingress block, after its records.
 struct VplsIngressTrailer {
     Bytes<4> unread_0;
 

@@ -17,7 +17,7 @@ static auto xid_type_name(const U32 &type)
     return name_of(names, type, "Unknown");
 }
 
-// In the order of their bits, but for flow labels and MSTIs.
+// In the order of their bits, except for "Flow Label imposition" and "MSTI enabled".
 static constexpr FlagTable xid_flags{{
     {31, "Unknown unicast flood block"},
     {30, "Multicast flood block"},

@@ -12,6 +12,7 @@ constexpr unsigned object_kind_rows = 27;
 struct ObjectKind {
     unsigned row;
     Literal name;
+
     bool in_state_summary; ///< the event statistics show every kind
 };
 
