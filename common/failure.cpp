@@ -52,8 +52,8 @@ std::uint32_t wrong_summary_size(Output &out, const Literal &function, std::uint
 
 std::uint32_t wrong_objtype(Output &out, const Literal &function, std::uint32_t objtype)
 {
-    const Failure failure(out);
-    out.text("%s: Wrong L2FIB objtype %d action %d", function, objtype, action_wrong_objtype);
+    note(out, "handled", false);
+    out.text("%s: Wrong L2FIB objtype %d action %d", function, again(objtype), again(action_wrong_objtype));
     return 0;
 }
 

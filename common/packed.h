@@ -72,12 +72,15 @@ public:
     /// The whole word, after conversion.
     [[nodiscard]] constexpr Word word() const { return std::bit_cast<Word>(bytes); }
 
-    [[nodiscard]] constexpr FromField<Word> get(unsigned field) const
+    [[nodiscard]] constexpr FromField<Word> get(unsigned field, const char *key = nullptr) const
     {
         const Word value = static_cast<Word>(word() >> layout[field].start) & mask(layout[field]);
-        return from_field(value, *this);
+        return from_field(value, *this, key);
     }
-    [[nodiscard]] constexpr FromField<bool> test(unsigned field) const { return from_field(get(field) != 0, *this); }
+    [[nodiscard]] constexpr FromField<bool> test(unsigned field, const char *key = nullptr) const
+    {
+        return from_field(get(field) != 0, *this, key);
+    }
 
     /// All fields at once: a bit for each, set when the field is not zero.
     [[nodiscard]] constexpr std::uint32_t set_flags() const
@@ -133,9 +136,9 @@ template <FieldRun... runs>
 class HardwareFlags : public FlagWord<runs...>
 {
 public:
-    [[nodiscard]] constexpr FromField<bool> test(unsigned bit) const
+    [[nodiscard]] constexpr FromField<bool> test(unsigned bit, const char *key = nullptr) const
     {
-        return from_field((this->word() >> (31 - bit) & 1U) != 0, *this);
+        return from_field((this->word() >> (31 - bit) & 1U) != 0, *this, key);
     }
     [[nodiscard]] constexpr std::uint32_t set_flags() const { return bits_reversed(this->word()); }
 };

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 namespace l2fib
 {
@@ -64,6 +65,13 @@ struct Flags {
     /// Those that are set and have no name, by number.
     void unnamed(std::uint32_t /*bits*/) const {}
 };
+
+/// A value, and what to call it: a number of the view's own, or a field that has another name here.
+template <class Value>
+constexpr const Value &called(const char * /*key*/, const Value &value)
+{
+    return value;
+}
 
 /// A value that the same thing has been said of before.
 template <class Value>

@@ -106,9 +106,9 @@ static bool print_record(Report &report, const TlvHeader &header, ShowData recor
             return false;
         }
         if (header.type == tlv_number) {
-            report.value(header.verdict, "%u ", from_field(number->value(), *number, "number"));
+            report.value(header.verdict, "%u ", called("number", *number));
         } else {
-            report.value(header.verdict, "%08x ", from_field(number->value(), *number, "number"));
+            report.value(header.verdict, "%08x ", called("number", *number));
         }
         return true;
     }
@@ -117,7 +117,7 @@ static bool print_record(Report &report, const TlvHeader &header, ShowData recor
         if (string == nullptr) {
             return false;
         }
-        report.value(header.verdict, "%s ", string);
+        report.value(header.verdict, "%s ", from_field(string, *string, "text"));
         return true;
     }
     case tlv_end_of_line: report.end_line(); return true;

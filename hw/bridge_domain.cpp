@@ -54,7 +54,8 @@ void print_bridge_domain_values(Output &out, std::uint32_t level, const BridgeDo
 {
     const bool single_shg0_np = domain.flags.test(BridgeDomainRecord::single_shg0_np);
     List members{out, level};
-    members.item("Num Members: %d", from_field(single_shg0_np ? 1U : domain.members & 0xffffU, domain.members));
+    members.item("Num Members: %d",
+                 from_field(single_shg0_np ? 1U : domain.members & 0xffffU, domain.members, "num_members"));
     members.item("Learn Key: 0x%02x", domain.learn_key);
     members.item("Half Age: %d", domain.half_age);
 

@@ -21,7 +21,7 @@ void print_bridge_hal_context(Output &out, std::uint32_t level, const BridgeHalC
     print_flags(out, level + 1, "Flags", hal_flags, bridge.flags);
 
     List summary{out, level + 1};
-    summary.item("Number of NPs: %d", static_cast<std::uint32_t>(nps.size()));
+    summary.item("Number of NPs: %d", called("np_count", static_cast<std::uint32_t>(nps.size())));
     summary.item("learn key: %d", bridge.learn_key);
     summary.item("vni_id: %d", bridge.vni_id);
 

@@ -47,7 +47,7 @@ void print_bridge_member(Output &out, std::uint32_t level, std::uint32_t member,
     for (std::uint32_t copy = 0; copy < copies.size(); ++copy) {
         const Element of_copy(out, "members");
         const int heading_column = out.line(level);
-        out.text("Bridge Member %d, copy %d ", member, copy);
+        out.text("Bridge Member %d, copy %d ", called("member", member), copy);
         print_copy(out, level + 1, heading_column, copies[copy].to_host(), irl_shg0_bound_members);
     }
 }
@@ -57,7 +57,7 @@ void print_pw_bvi_member(Output &out, std::uint32_t level, std::uint32_t member,
 {
     for (std::uint32_t copy = 0; copy < copies.size(); ++copy) {
         const Element of_copy(out, "pw_over_bvi_members");
-        out.line(level, "PW-BVI Bridge Member %d, copy %d ", member, copy);
+        out.line(level, "PW-BVI Bridge Member %d, copy %d ", called("member", member), copy);
         List line{out, level + 1};
         line.item("XID: 0x%08x", copies[copy].to_host().xid);
     }

@@ -23,13 +23,12 @@ static void print_summary(Output &out, std::span<const BigU32> high_water_marks,
     for (std::size_t np = 0; np < high_water_marks.size(); ++np) {
         const Element of_np(out, "nps");
         out.text("  NP-%d:%d", static_cast<std::uint32_t>(np),
-                 from_field(high_water_marks[np].value(), high_water_marks[np], "mac_counter_high_water_mark"));
+                 called("mac_counter_high_water_mark", high_water_marks[np]));
     }
     out.text("\n  NP HW Resource Status:\n");
     for (std::size_t np = 0; np < resource_status.size(); ++np) {
         const Element of_np(out, "resource_status");
-        out.text("  NP-%d: 0x%04x", static_cast<std::uint32_t>(np),
-                 from_field(resource_status[np].value(), resource_status[np], "status"));
+        out.text("  NP-%d: 0x%04x", static_cast<std::uint32_t>(np), called("status", resource_status[np]));
     }
     out.text("\n  Platform HAL Shared Mem Flags: 0x%04x\n", totals.flags);
     out.text("  L2VPN Load Balance Type: 0x%0x\n", totals.load_balance_type);

@@ -109,7 +109,7 @@ static void print_mac_counts(Output &out, const BigU32 &total_macs, const U32 &m
     for (unsigned operation = 1; operation < resource_operations; ++operation) {
         out.text("     -/-    ");
     }
-    out.text("%6d/%-6d\n", from_field(total_macs.value(), total_macs, "in_use"), maximum);
+    out.text("%6d/%-6d\n", called("in_use", total_macs), maximum);
 }
 
 static void print_count_totals(Output &out, const ColumnTotal (&totals)[resource_operations])

@@ -28,7 +28,7 @@ static void print_configuration(Output &out, std::uint32_t level, const StormCon
         note(out, "enabled", limit.enabled);
         out.text(" %s: ", traffic_names[type]);
         if (limit.enabled) {
-            out.text("%d %s", *limit.rate, config.kbps ? "kbps," : "pps,");
+            out.text("%d %s", called("rate", *limit.rate), config.kbps ? "kbps," : "pps,");
         } else {
             // Only a rate is followed by a comma at the end of the line.
             out.text("%s", type + 1 < storm_traffic_types ? "Disabled," : "Disabled");
@@ -53,12 +53,12 @@ static void print_rows(Output &out, std::uint32_t level, const StormControlState
         note(out, "type", traffic_names[type]);
         if (traffic.status == status_config) {
             out.line(level, "%-15s|%-13s|%-8d|%-13d|0x%-13x|%-10d|%-2d", traffic_names[type],
-                     status_name(traffic.status), profile.rate[type],
-                     traffic.profile.get(StormControlTraffic::profile_index), traffic.token_bucket_id,
-                     profile.profile_id[type], np);
+                     status_name(traffic.status), called("rate", profile.rate[type]),
+                     traffic.profile.get(StormControlTraffic::profile_index, "profile_index"), traffic.token_bucket_id,
+                     called("profile_id", profile.profile_id[type]), again(np));
         } else {
             out.line(level, "%-15s|%-13s|%8s|%13s|%15s|%10s|%-2d", traffic_names[type], status_name(traffic.status),
-                     "------", "-------------", "---------------", "----------", np);
+                     "------", "-------------", "---------------", "----------", again(np));
         }
     }
 }

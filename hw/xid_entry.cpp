@@ -67,9 +67,9 @@ static void print_ac_lines(Output &out, std::uint32_t level, const XidEntry &ent
     ports.item("DVP Index: 0x%x ", again(entry.virtual_port));
 
     List translation{out, level};
-    translation.item("Ing Xlate: %d ", entry.translation.test(XidEntry::ingress_translation));
-    translation.item("Egr Xlate: %d ", entry.translation.test(XidEntry::egress_translation));
-    translation.item("Is_remote_pw: %d ", entry.translation.test(XidEntry::remote_pw));
+    translation.item("Ing Xlate: %d ", entry.translation.test(XidEntry::ingress_translation, "ingress_translation"));
+    translation.item("Egr Xlate: %d ", entry.translation.test(XidEntry::egress_translation, "egress_translation"));
+    translation.item("Is_remote_pw: %d ", entry.translation.test(XidEntry::remote_pw, "remote_pw"));
 }
 
 static void print_bundle_line(Output &out, std::uint32_t level, const XidEntry &entry)

@@ -10,26 +10,26 @@ static void print_descriptor(Output &out, const char *key, const PathDescriptor 
 {
     const Section section(out, key);
     TwoColumns values{out, "\t "};
-    values.item("is lag            : %d", path.flags.get(PathDescriptor::lag));
+    values.item("is lag            : %d", path.flags.test(PathDescriptor::lag, "lag"));
     values.item("sfp/lag id      : %d ", path.sfp_or_lagid);
-    values.item("use sat lag hash  : %d", path.flags.get(PathDescriptor::use_sat_lag_hash));
+    values.item("use sat lag hash  : %d", path.flags.test(PathDescriptor::use_sat_lag_hash, "use_sat_lag_hash"));
     values.item("sat lag hash    : %d", path.sat_lag_hash);
-    values.item("is ifh valid      : %d", path.flags.get(PathDescriptor::ifhandle_valid));
+    values.item("is ifh valid      : %d", path.flags.test(PathDescriptor::ifhandle_valid, "ifhandle_valid"));
     values.item("ifhandle        : 0x%08x", path.ifhandle);
 }
 
 static void print_path(Output &out, const IgpPath &path)
 {
     const Element of_path(out, "paths");
-    const auto backup_valid = path.state.flags.get(PathState::backup_valid);
+    const auto backup_valid = path.state.flags.test(PathState::backup_valid, "backup_valid");
     out.text("\nIGP Path\n--------\n");
     TwoColumns values{out, "\t "};
-    values.item("is unresolved     : %d", path.state.flags.get(PathState::unresolved));
+    values.item("is unresolved     : %d", path.state.flags.test(PathState::unresolved, "unresolved"));
     values.item("is bkup valid   : %d", backup_valid);
 
     out.text("\nPrimary Path\n------------\n");
     print_descriptor(out, "primary", path.primary);
-    if (backup_valid != 0) {
+    if (backup_valid) {
         out.text("\nBackup Path\n-----------\n");
         print_descriptor(out, "backup", path.backup);
     }

@@ -46,22 +46,22 @@ static HardwareView view_of(std::uint32_t objtype, HardwareView HardwareObject::
 
 static std::uint32_t show_hardware_detail(Output &out, std::uint32_t level, const ViewRequest &request)
 {
+    const Section hardware(out, "hw");
     const HardwareView view = view_of(request.objtype, &HardwareObject::detail);
     if (view == nullptr) {
         out.line(level);
         return wrong_objtype(out, hardware_detail_view, request.objtype);
     }
-    const Section hardware(out, "hw");
     return view(out, level, request.direction, request.data());
 }
 
 static std::uint32_t show_hardware_private(Output &out, std::uint32_t level, const ViewRequest &request)
 {
+    const Section hardware(out, "hw");
     const HardwareView view = view_of(request.objtype, &HardwareObject::private_context);
     if (view == nullptr) {
         return wrong_objtype(out, hardware_private_view, request.objtype);
     }
-    const Section hardware(out, "hw");
     return view(out, level, request.direction, request.data());
 }
 

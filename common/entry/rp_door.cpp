@@ -64,6 +64,7 @@ std::uint32_t show_detail(Output &out, const ViewRequest &request)
     }
     const RpObject *object = rp_object(request.objtype);
     if (object == nullptr) {
+        const Section rp(out, "rp");
         return wrong_objtype(out, detail_view, request.objtype);
     }
     if (object->detail != nullptr) {
@@ -75,6 +76,13 @@ std::uint32_t show_detail(Output &out, const ViewRequest &request)
     return status;
 }
 
+static void print_not_handled(Output &out, std::uint32_t objtype)
+{
+    const Section rp(out, "rp");
+    out.line(1);
+    wrong_objtype(out, private_view, objtype);
+}
+
 std::uint32_t show_private(Output &out, const ViewRequest &request)
 {
     if (const auto status = refusal(out, private_view, request)) {
@@ -82,8 +90,7 @@ std::uint32_t show_private(Output &out, const ViewRequest &request)
     }
     const RpObject *object = rp_object(request.objtype);
     if (object == nullptr || object->private_context == nullptr) { // some objects have a hardware part only
-        out.line(1);
-        wrong_objtype(out, private_view, request.objtype);
+        print_not_handled(out, request.objtype);
         return hand_over(out, 1, request);
     }
     {

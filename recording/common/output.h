@@ -123,7 +123,8 @@ private:
             }
             recorded.printed = value;
         } else {
-            recorded.kind = kind_of(conversion.kind);
+            recorded.kind =
+                std::is_same_v<decltype(value), const bool> ? recording::Value::truth : kind_of(conversion.kind);
             recorded.number = widened(value);
             recorded.printed = buffered().substr(buffered().size() - size);
         }

@@ -82,6 +82,18 @@ auto made_from(const Field &field, const Make &make)
     return from;
 }
 
+template <class Named>
+auto called(const char *key, const Named &value)
+{
+    if constexpr (requires { value.bytes; }) {
+        FromField<decltype(value.value())> from{value.value(), source_of(value)};
+        from.source.key = key;
+        return from;
+    } else {
+        return FromField<Named>{value, {.key = key}};
+    }
+}
+
 /// A value that has been recorded of the same thing.
 template <class Said>
 struct Again {
