@@ -185,7 +185,7 @@ static void print_np(Output &out, std::uint32_t np, const ResourceData &received
     ColumnTotal totals[resource_operations];
     out.text("\n"
              "                     Hardware Resource Summary - NP%d\n",
-             np);
+             called("np", np));
     out.text("%s", rule);
     print_columns(out);
     for (unsigned type = 0; type < resource_types; ++type) {
@@ -234,7 +234,7 @@ static std::uint32_t print_resource_data(Output &out, std::uint32_t level, ShowD
     out.text("\n");
     for (std::uint32_t np = 0; np < np_count; ++np) {
         const Element of_np(out, "mac_scans");
-        out.text("                     Mac Scan Summary - NP%d\n", np);
+        out.text("                     Mac Scan Summary - NP%d\n", called("np", np));
         out.text("%s", rule);
         print_mac_scan(out, HostCopy(received->mac_scans[np]).record());
         out.text("\n");

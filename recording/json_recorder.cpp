@@ -7,35 +7,10 @@
 namespace recording
 {
 
-std::string key_of_label(std::string_view label)
-{
-    std::string key;
-    for (const char c : label) {
-        const bool is_upper = c >= 'A' && c <= 'Z';
-        const bool is_letter = is_upper || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
-        if (is_letter) {
-            key += is_upper ? static_cast<char>(c - 'A' + 'a') : c;
-        } else if (!key.empty() && key.back() != '_') {
-            key += '_';
-        }
-    }
-    while (!key.empty() && key.back() == '_') {
-        key.pop_back();
-    }
-    return key;
-}
-
-std::string_view trimmed(std::string_view text)
-{
-    const std::size_t begin = std::min(text.find_first_not_of(' '), text.size());
-    return text.substr(begin, text.find_last_not_of(' ') + 1 - begin);
-}
-
 void JsonRecorder::begin(std::span<const std::uint8_t> show_data, std::span<const std::uint8_t> received)
 {
-    map_.begin(show_data);
+    begin_view(show_data);
     received_ = received;
-    path_.clear();
     failures_.clear();
     last_flags_ = nullptr;
 }
@@ -58,55 +33,23 @@ void JsonRecorder::end()
 
 void JsonRecorder::open_section(const char *key)
 {
-    path_.emplace_back(key);
+    enter_section(key);
     last_flags_ = nullptr;
     json_.open_object(key);
 }
 
 void JsonRecorder::open_element(const char *key)
 {
-    path_.emplace_back(key);
+    enter_element(key);
     last_flags_ = nullptr;
     json_.open_element(key);
 }
 
 void JsonRecorder::close()
 {
-    path_.pop_back();
+    leave();
     last_flags_ = nullptr;
     json_.close_object();
-}
-
-std::string_view JsonRecorder::label_key(std::string_view label)
-{
-    std::string &key = label_keys_[label.data()];
-    if (key.empty()) {
-        key = key_of_label(label.ends_with("0x") ? label.substr(0, label.size() - 2) : label);
-    }
-    return key;
-}
-
-std::string_view JsonRecorder::name_of(const Source &source)
-{
-    const auto place = map_.place_of(source.field);
-    if (!place || place->field == nullptr) {
-        return {};
-    }
-    if (!place->field->is_array) {
-        return place->field->name;
-    }
-    name_ = place->name();
-    return name_;
-}
-
-std::string_view JsonRecorder::key_of(const Value &value)
-{
-    if (value.source.key != nullptr) {
-        return value.source.key;
-    }
-    const std::string_view name =
-        value.source.field == nullptr || value.source.is_part ? std::string_view{} : name_of(value.source);
-    return name.empty() ? label_key(value.label) : name;
 }
 
 /// A member that goes with another one.
@@ -192,7 +135,7 @@ void JsonRecorder::close_flags()
     }
     json_.close_array();
     for (const Source &word : flag_words_) {
-        const auto offset = map_.offset_of(word.field);
+        const auto offset = map().offset_of(word.field);
         std::string hex = "\"0x";
         for (std::size_t i = 0; offset && i < word.width; ++i) {
             constexpr std::string_view digits = "0123456789abcdef";
@@ -214,11 +157,7 @@ void JsonRecorder::close_flags()
 void JsonRecorder::open_failure()
 {
     in_failure_ = true;
-    FailureNote &failure = failures_.emplace_back();
-    for (const std::string_view name : path_) {
-        failure.at += failure.at.empty() ? "" : ".";
-        failure.at += name;
-    }
+    failures_.push_back({path(), {}, {}, {}});
 }
 
 /// The sizes that a message has.

@@ -2,21 +2,15 @@
 #pragma once
 
 #include "recording/json_writer.h"
-#include "recording/show_data_map.h"
+#include "recording/naming_recorder.h"
 
-#include <unordered_map>
+#include <optional>
 
 namespace recording
 {
 
-/// The key of a label: "Learn Limit Count Index: " is learn_limit_count_index.
-std::string key_of_label(std::string_view label);
-
-/// A text without the blanks around it.
-std::string_view trimmed(std::string_view text);
-
 /// Writes the values of a view as members of the object that is open in a JsonWriter.
-class JsonRecorder : public Recorder
+class JsonRecorder : public NamingRecorder
 {
 public:
     explicit JsonRecorder(JsonWriter &json) : json_(json) {}
@@ -37,11 +31,6 @@ public:
     void close_flags() override;
     void open_failure() override;
     void close_failure(std::string_view text) override;
-    void reached(const RecordInfo *type, const void *first, std::size_t size, std::size_t count) override
-    {
-        map_.reached(type, first, size, count);
-    }
-    void copied(const void *to, const void *from, std::size_t size) override { map_.copied(to, from, size); }
 
 private:
     struct FailureNote {
@@ -51,20 +40,13 @@ private:
         std::optional<std::uint64_t> needed;
     };
 
-    [[nodiscard]] std::string_view key_of(const Value &value);
-    [[nodiscard]] std::string_view name_of(const Source &source);
-    std::string_view label_key(std::string_view label);
     void number(std::string_view key, const Value &value);
     void companion(std::string_view key, std::string_view suffix, std::string_view json);
     void note_failure_number(const Value &value);
 
     JsonWriter &json_;
-    ShowDataMap map_;
     std::span<const std::uint8_t> received_;
-    std::unordered_map<const char *, std::string> label_keys_;
-    std::string name_;
     std::string companion_;
-    std::vector<std::string_view> path_;
     std::vector<FailureNote> failures_;
     bool in_failure_ = false;
 
