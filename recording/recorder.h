@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <span>
 #include <string_view>
 
@@ -94,5 +95,18 @@ public:
 
 /// Who takes down what views print now; null for nobody. One thread at a time.
 extern Recorder *current;
+
+/// Where the text of views goes. At first it goes nowhere.
+extern std::FILE *text_stream;
+
+/// Has views report to a recorder for as long as it lives.
+class Recording
+{
+public:
+    explicit Recording(Recorder &recorder) { current = &recorder; }
+    ~Recording() { current = nullptr; }
+    Recording(const Recording &) = delete;
+    Recording &operator=(const Recording &) = delete;
+};
 
 } // namespace recording

@@ -41,7 +41,7 @@ recording::Source source_of_argument(const Arg &arg)
 class Output : public TextWriter
 {
 public:
-    explicit Output(std::FILE *stream = stdout) : TextWriter(stream), recorder_(recording::current) {}
+    explicit Output(std::FILE *stream = recording::text_stream) : TextWriter(stream), recorder_(recording::current) {}
 
     using TextWriter::line;
 
