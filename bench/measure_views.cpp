@@ -65,7 +65,7 @@ static Show show_of(const Object &object)
     if (object.has_views()) {
         return [](const Library &library, const Capture &capture, Bytes &scratch) {
             library.object(capture.object->objtype, capture.node, capture.direction->number,
-                           capture.shown_view()->number, scratch.data(), scratch.size());
+                           capture.shown_view()->flags, scratch.data(), scratch.size());
         };
     }
     if (object.name == std::string_view("summary")) {

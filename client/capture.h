@@ -12,13 +12,13 @@ namespace l2fib
 struct Capture {
     const Object *object = nullptr;
     std::uint32_t node = 0;
-    const Choice *direction = &directions().front();
-    const Choice *view = nullptr; ///< null for the object's default
+    const Direction *direction = &directions().front();
+    const View *view = nullptr; ///< null for the object's default
     Router router;
     std::vector<std::uint8_t> show_data;
 
     /// Null for what has no views.
-    [[nodiscard]] const Choice *shown_view() const { return view != nullptr ? view : object->default_view; }
+    [[nodiscard]] const View *shown_view() const { return view != nullptr ? view : object->default_view; }
 
     /// Shows it, without any show data where it has no bytes. The show data is converted on the way, so this is done
     /// once. Returns the library's status.

@@ -46,14 +46,14 @@ static CLI::Option *add_named(CLI::App &app, const char *option, std::span<const
 
 static void add_direction_and_view(CLI::App &app, Capture &capture)
 {
-    const std::span<const Choice> sides = directions();
+    const std::span<const Direction> sides = directions();
     auto *ingress = app.add_flag_callback(
         "--ingress", [&capture, sides] { capture.direction = &sides.front(); }, "The ingress side (the default)");
     app.add_flag_callback(
            "--egress", [&capture, sides] { capture.direction = &sides[1]; }, "The egress side")
         ->excludes(ingress);
-    add_named<Choice>(
-        app, "--view", views(), [&capture](const Choice &view) { capture.view = &view; },
+    add_named<View>(
+        app, "--view", views(), [&capture](const View &view) { capture.view = &view; },
         "detail, private or inconsistent (default: detail; private for nhop and resources)")
         ->type_name("VIEW");
 }

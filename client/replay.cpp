@@ -30,7 +30,7 @@ class Tally
 public:
     void add(const Capture &capture, std::uint32_t status)
     {
-        const Choice *view = capture.shown_view();
+        const View *view = capture.shown_view();
         ++counts_[{capture.object->name, view == nullptr ? "-" : view->name, status}];
     }
 
@@ -164,7 +164,7 @@ void Replay::print_heading(const Capture &capture, const Place &place)
     if (!options_.heading) {
         return;
     }
-    const Choice *view = capture.shown_view();
+    const View *view = capture.shown_view();
     const std::string how = view == nullptr ? "" : std::string(" ") + capture.direction->name + " " + view->name;
     std::printf("%s== %s: %s%s\n", is_first_ ? "" : "\n", place.text().c_str(), capture.object->name, how.c_str());
     is_first_ = false;

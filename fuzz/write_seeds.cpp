@@ -51,7 +51,7 @@ static Call call_for(const SampleCapture &sample)
     Call call{};
     set_as_stored(call.objtype, row_named(objects(), sample.object)->objtype);
     set_as_stored(call.direction, row_named(directions(), sample.direction)->number);
-    set_as_stored(call.view_flags, row_named(views(), sample.view)->number);
+    set_as_stored(call.view_flags, row_named(views(), sample.view)->flags);
     set_as_stored(call.card_type, supported_card);
     set_as_stored(call.monotonic_seconds, uptime);
     return call;
