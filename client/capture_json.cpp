@@ -2,8 +2,8 @@
 #include "client/capture.h"
 #include "client/diagnostics.h"
 #include "client/hex.h"
+#include "client/whole_number.h"
 
-#include <charconv>
 #include <cstring>
 #include <limits>
 #include <nlohmann/json.hpp>
@@ -98,17 +98,6 @@ static constexpr Member members[] = {
     {"show_data", nullptr, set_show_data},
 };
 
-/// The number that a text has, decimal or with 0x.
-static std::optional<std::uint64_t> number_of(std::string_view text)
-{
-    const bool is_hex = text.starts_with("0x");
-    text.remove_prefix(is_hex ? 2 : 0);
-    std::uint64_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, is_hex ? 16 : 10);
-    const bool is_whole = error == std::errc{} && end == text.data() + text.size();
-    return is_whole ? std::optional(number) : std::nullopt;
-}
-
 using Json = nlohmann::ordered_json;
 
 /// Takes a capture member by member as the parser meets them, and nothing else: what a file may hold beside captures
@@ -138,7 +127,7 @@ public:
         if (member_->take_text != nullptr) {
             return blame(member_->take_text(draft, text));
         }
-        const auto number = number_of(text);
+        const auto number = whole_number(text);
         return blame(number ? member_->take_number(draft, *number) : refuse(draft, "no number: " + spelled_out(text)));
     }
 

@@ -49,7 +49,17 @@ expect 2 empty 'l2fib-show: an object is required; see l2fib-show --help' --
 expect 2 empty 'l2fib-show: The following argument was not expected: vlan' -- vlan
 expect 2 empty 'l2fib-show: The following argument was not expected: --loud' -- ac --loud short
 expect 2 empty 'l2fib-show: --ingress excludes --egress' -- ac --ingress --egress short
-expect 2 empty 'l2fib-show: Could not convert: --card = x' -- ac --card x short
+expect 2 empty "l2fib-show: --card: no number: 'x'" -- ac --card x short
+expect 2 empty "l2fib-show: --xid: no number: '1.5'" -- replay --xid 1.5
+expect 2 empty "l2fib-show: --node: number above 4294967295: '4294967296'" -- ac --node 4294967296 short
+expect 2 empty "l2fib-show: --monotonic: no number: '18446744073709551616'" -- \
+    ac --monotonic 18446744073709551616 --wall 1 short
+printf '%s\n' '{"object":"ac","node":10,"card":"0x11","direction":"ingress","view":"detail","monotonic_seconds":7,' \
+    '"wall_seconds":8,"time_zone":"UTC0","virtual_interfaces":["0x9","0xa"],"show_data":"00"}' | paste -sd '\0' >numbers
+printf '\000' >zero
+expect 0 numbers '' -- capture ac --node 010 --card 0x011 --monotonic 07 --wall 0x8 --time-zone UTC0 \
+    --virtual-interface 09 --virtual-interface 0x0a zero
+expect 0 empty '' -- replay --xid 010 --node 0x0a numbers
 
 
 # Captures: what capture writes, replay shows; what is wrong with a line is told, and the rest goes on.
