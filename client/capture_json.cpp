@@ -1,7 +1,7 @@
 // Captures as lines of JSON.
 #include "client/capture.h"
 #include "client/diagnostics.h"
-#include "client/hex.h"
+#include "client/hex_digits.h"
 #include "client/whole_number.h"
 
 #include <cstring>

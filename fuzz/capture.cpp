@@ -1,7 +1,7 @@
 // Proves that any line can be read as a capture, that what is read is what the line says, whatever lines came before,
 // that it is written as a line which is read as the same, and that showing it keeps to its show data.
 #include "client/capture.h"
-#include "client/hex.h"
+#include "client/hex_digits.h"
 #include "fuzz/exact_copy.h"
 #include "fuzz/target.h"
 

@@ -1,6 +1,6 @@
 // Writes the inputs that the targets start from, made of the sample captures: write-seeds DIRECTORY
 #include "client/capture.h"
-#include "client/hex.h"
+#include "client/hex_digits.h"
 #include "common/show_data.h"
 #include "examples/sample_lines.h"
 #include "examples/show_data_builder.h"

@@ -69,7 +69,7 @@ zone=CET-1CEST,M3.5.0,M10.5.0/3
 expect 0 "$ac" '' -- capture ac --monotonic 1036800 --wall 1763900000 --time-zone $zone --format plain vpls-ac-ingress.hex
 expect 2 empty "l2fib-show: --time-zone: no time zone: '/etc/localtime'" -- ac --time-zone /etc/localtime short
 expect 2 empty 'l2fib-show: --monotonic requires --wall' -- capture ac --monotonic 5 short
-expect 2 empty 'l2fib-show: vpls-ac-ingress.bin: line 1: not pairs of hex digits' -- ac --hex vpls-ac-ingress.bin
+expect 2 empty 'l2fib-show: vpls-ac-ingress.bin: line 1, column 1: not pairs of hex digits' -- ac --hex vpls-ac-ingress.bin
 
 "$show" capture bridge-port --egress --node 9 short >failing
 {
