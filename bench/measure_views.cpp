@@ -1,7 +1,7 @@
 // How long the views take, for each sample and for a mix of a hundred thousand objects: the library, the same views
 // with every piece of text through printf (the baseline), and their text, ready, through one fwrite an object (the
 // floor); and how long it takes to read captures.
-#include "client/capture.h"
+#include "client/capture_reader.h"
 #include "client/held_output.h"
 #include "client/input.h"
 #include "examples/sample_lines.h"
@@ -213,9 +213,9 @@ static void measure_reading(benchmark::State &state, const CaptureFile &file)
     while (state.KeepRunning()) {
         const double begin = cpu_seconds();
         Input input(file.path());
-        CaptureParser parser;
+        CaptureReader reader;
         while (const auto line = input.next_line(longest_line)) {
-            benchmark::DoNotOptimize(parser.parse(line->text));
+            benchmark::DoNotOptimize(reader.read(line->text));
         }
         state.SetIterationTime(cpu_seconds() - begin);
     }

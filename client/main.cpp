@@ -1,5 +1,5 @@
 // l2fib-show: prints saved show data as the router's show commands do.
-#include "client/capture.h"
+#include "client/capture_writer.h"
 #include "client/diagnostics.h"
 #include "client/replay.h"
 #include "client/show_data_file.h"

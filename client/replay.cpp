@@ -1,5 +1,6 @@
 #include "client/replay.h"
 
+#include "client/capture_reader.h"
 #include "client/held_output.h"
 #include "client/input.h"
 #include "client/progress.h"
@@ -91,7 +92,7 @@ private:
     const ReplayOptions &options_;
     HeldOutput held_;
     Progress progress_;
-    CaptureParser parser_;
+    CaptureReader reader_;
     Tally tally_;
     bool is_first_ = true;
     ExitStatus exit_status_ = shown;
@@ -123,7 +124,7 @@ void Replay::read_line(const Input::Line &line, const Place &place)
     if (line.text.find_first_not_of(" \t\r") == std::string_view::npos) {
         return;
     }
-    CaptureLine &parsed = parser_.parse(line.text);
+    CaptureLine &parsed = reader_.read(line.text);
     if (!parsed.error.empty()) {
         report(place.text() + ": " + parsed.error);
     } else if (options_.selection.fits(parsed.capture)) {

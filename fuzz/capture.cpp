@@ -1,6 +1,7 @@
 // Proves that any line can be read as a capture, that what is read is what the line says, whatever lines came before,
 // that it is written as a line which is read as the same, and that showing it keeps to its show data.
-#include "client/capture.h"
+#include "client/capture_reader.h"
+#include "client/capture_writer.h"
 #include "client/hex_digits.h"
 #include "fuzz/exact_copy.h"
 #include "fuzz/target.h"
@@ -18,11 +19,11 @@ static std::string lower(std::string digits)
     return digits;
 }
 
-/// A line of a file, by a parser that has read the lines before it.
-static void check(std::string_view line, CaptureParser &parser)
+/// A line of a file, by a reader that has read the lines before it.
+static void check(std::string_view line, CaptureReader &reader)
 {
     const CaptureLine read = parse_capture(line);
-    const CaptureLine &read_in_turn = parser.parse(line);
+    const CaptureLine &read_in_turn = reader.read(line);
     require(read_in_turn.error == read.error, "a line is as good as it is alone");
     if (!read.error.empty()) {
         return;
@@ -50,10 +51,10 @@ static void check(std::string_view line, CaptureParser &parser)
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     std::string_view rest(reinterpret_cast<const char *>(data), size);
-    l2fib::CaptureParser parser;
+    l2fib::CaptureReader reader;
     while (!rest.empty()) {
         const std::string_view line = rest.substr(0, rest.find('\n'));
-        l2fib::check(line, parser);
+        l2fib::check(line, reader);
         rest.remove_prefix(std::min(line.size() + 1, rest.size()));
     }
     return 0;

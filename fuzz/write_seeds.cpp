@@ -1,5 +1,5 @@
 // Writes the inputs that the targets start from, made of the sample captures: write-seeds DIRECTORY
-#include "client/capture.h"
+#include "client/capture_writer.h"
 #include "client/hex_digits.h"
 #include "common/show_data.h"
 #include "examples/sample_lines.h"

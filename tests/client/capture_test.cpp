@@ -1,5 +1,6 @@
 // Captures as lines of JSON, and what shows of the router that they came from.
-#include "client/capture.h"
+#include "client/capture_reader.h"
+#include "client/capture_writer.h"
 #include "tests/support/printed.h"
 
 #include <cstdlib>
@@ -77,9 +78,9 @@ TEST(Capture, BrokenLines)
 
 TEST(Capture, LinesThatDifferInTheirDigitsOnly)
 {
-    CaptureParser parser;
+    CaptureReader reader;
     const auto parsed = [&](const std::string &line) {
-        const CaptureLine &result = parser.parse(line);
+        const CaptureLine &result = reader.read(line);
         return result.error.empty() ? format_capture(result.capture) : result.error;
     };
     const std::string front = R"({"object":"ac","node":1,"card":"0x1e1000","direction":"egress","view":"detail",)"
@@ -90,7 +91,7 @@ TEST(Capture, LinesThatDifferInTheirDigitsOnly)
     EXPECT_EQ(parsed(front + "abc\"}"), "show_data: not pairs of hex digits");
     EXPECT_EQ(parsed(front + "\"}"), front + "\"}");
     parsed(front + "00\"}"); // leaves room behind
-    const Shown empty = shown([&] { return parser.parse(front + "\"}").capture.show(); });
+    const Shown empty = shown([&] { return reader.read(front + "\"}").capture.show(); });
     EXPECT_EQ(empty, shown([&] { return parse_capture(front + "\"}").capture.show(); }));
 
     // Of a line whose first digits are another member's, nothing is kept.

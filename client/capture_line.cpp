@@ -1,10 +1,9 @@
-// Captures as lines of JSON.
-#include "client/capture.h"
+#include "client/capture_line.h"
+
 #include "client/diagnostics.h"
 #include "client/hex_digits.h"
 #include "client/whole_number.h"
 
-#include <cstring>
 #include <limits>
 #include <nlohmann/json.hpp>
 
@@ -19,9 +18,7 @@ struct Draft {
     std::optional<std::uint64_t> monotonic_seconds;
     std::optional<std::uint64_t> wall_seconds;
     bool has_show_data = false;
-    std::optional<std::vector<std::uint8_t>> show_data_apart; ///< read ahead of the members
-    std::string stand_in;                                     ///< what the parser is given in place of their digits
-    std::size_t broken_at = 0;                                ///< the byte at which it is no JSON
+    std::size_t broken_at = 0; ///< the byte at which it is no JSON
     std::string error;
 };
 
@@ -50,8 +47,7 @@ static bool set_row(Draft &draft, const Row *&field, std::span<const Row> table,
 
 static bool set_show_data(Draft &draft, const std::string &text)
 {
-    auto bytes = draft.show_data_apart && text == draft.stand_in ? std::exchange(draft.show_data_apart, std::nullopt)
-                                                                 : bytes_of_hex(text);
+    auto bytes = bytes_of_hex(text);
     if (!bytes) {
         return refuse(draft, "not pairs of hex digits");
     }
@@ -102,7 +98,7 @@ using Json = nlohmann::ordered_json;
 
 /// Takes a capture member by member as the parser meets them, and nothing else: what a file may hold beside captures
 /// takes no memory.
-class CaptureReader : public nlohmann::json_sax<Json>
+class MemberReader : public nlohmann::json_sax<Json>
 {
 public:
     Draft draft;
@@ -206,21 +202,8 @@ static const char *missing(const Draft &draft)
                : "one of monotonic_seconds and wall_seconds without the other";
 }
 
-/// Where the digits of the show data begin on a line, if they are found.
-static std::optional<std::size_t> find_digits(std::string_view line)
-{
-    constexpr std::string_view key = "\"show_data\":";
-    const void *found = memmem(line.data(), line.size(), key.data(), key.size()); // quicker than find
-    if (found == nullptr) {
-        return std::nullopt;
-    }
-    const auto behind_key = static_cast<std::size_t>(static_cast<const char *>(found) - line.data()) + key.size();
-    const std::size_t quote = line.find_first_not_of(' ', behind_key);
-    return quote != std::string_view::npos && line[quote] == '"' ? std::optional(quote + 1) : std::nullopt;
-}
-
 /// What the parser made of a line.
-static CaptureLine finish(CaptureReader &reader, bool is_read)
+static CaptureLine finish(MemberReader &reader, bool is_read)
 {
     Draft &draft = reader.draft;
     if (!is_read) {
@@ -235,118 +218,11 @@ static CaptureLine finish(CaptureReader &reader, bool is_read)
     return {std::move(draft.capture), {}};
 }
 
-/// A line, taken apart at the digits of its show data.
-struct CaptureParser::Parts {
-    std::string_view front;
-    std::string_view digits;
-    std::string_view back;
-};
-
-bool CaptureParser::read_as_known(const Parts &parts)
-{
-    frame_ = parts.front;
-    frame_ += '\n'; // which no line has
-    frame_ += parts.back;
-    const auto found = known_.find(frame_);
-    if (found == known_.end()) {
-        return false;
-    }
-    result_.error.clear();
-    result_.capture = found->second;
-    return append_hex(result_.capture.show_data, parts.digits);
-}
-
-/// Nearly all of a line are its digits, which take no parser: it is given the line without them.
-CaptureLine CaptureParser::read_anew(std::string_view line, const Parts &parts)
-{
-    CaptureReader reader;
-    Draft &draft = reader.draft;
-    draft.show_data_apart = bytes_of_hex(parts.digits);
-    if (!draft.show_data_apart) {
-        return finish(reader, Json::sax_parse(line, &reader));
-    }
-    // Longer than any other text that the line can hold: the digits that were found may be of another member.
-    draft.stand_in.assign(parts.front.size() + parts.back.size(), '*');
-    std::string rest(parts.front);
-    rest += draft.stand_in;
-    rest += parts.back;
-    const bool is_read = Json::sax_parse(rest, &reader);
-    if (draft.broken_at > parts.front.size()) {
-        draft.broken_at += parts.digits.size();
-        draft.broken_at -= draft.stand_in.size();
-    }
-    const bool took_digits = !draft.show_data_apart;
-    CaptureLine parsed = finish(reader, is_read);
-    if (parsed.error.empty() && took_digits) {
-        constexpr std::size_t most_known = 256;
-        if (known_.size() == most_known) {
-            known_.clear();
-        }
-        Capture &known = known_[frame_];
-        known = parsed.capture;
-        known.show_data = {};
-    }
-    return parsed;
-}
-
-CaptureLine &CaptureParser::parse(std::string_view line)
-{
-    const std::optional<std::size_t> begin = find_digits(line);
-    if (!begin) {
-        CaptureReader reader;
-        const bool is_read = Json::sax_parse(line, &reader);
-        return result_ = finish(reader, is_read);
-    }
-    const std::string_view front = line.substr(0, *begin);
-    const std::string_view behind = line.substr(*begin);
-    // Lines end alike, mostly. Where the digits end before, a '"' is among what is taken for them, and refused.
-    if (behind.ends_with(back_) && read_as_known({front, behind.substr(0, behind.size() - back_.size()), back_})) {
-        return result_;
-    }
-    const std::size_t end = std::min(behind.find('"'), behind.size());
-    back_ = behind.substr(end);
-    const Parts parts{front, behind.substr(0, end), back_};
-    if (!read_as_known(parts)) {
-        result_ = read_anew(line, parts);
-    }
-    return result_;
-}
-
 CaptureLine parse_capture(std::string_view line)
 {
-    return std::move(CaptureParser{}.parse(line));
-}
-
-std::string format_capture(const Capture &capture)
-{
-    const auto hex = [](std::uint32_t number) {
-        std::array<char, sizeof "0xffffffff"> text{};
-        std::snprintf(text.data(), text.size(), "0x%x", number);
-        return std::string(text.data());
-    };
-    const Router &router = capture.router;
-    Json line;
-    line["object"] = capture.object->name;
-    line["node"] = capture.node;
-    line["card"] = hex(router.card_type);
-    if (capture.object->has_views()) {
-        line["direction"] = capture.direction->name;
-        line["view"] = capture.shown_view()->name;
-    }
-    if (router.clocks) {
-        line["monotonic_seconds"] = router.clocks->monotonic_seconds;
-        line["wall_seconds"] = router.clocks->wall_seconds;
-    }
-    if (router.time_zone) {
-        line["time_zone"] = *router.time_zone;
-    }
-    if (!router.virtual_interfaces.empty()) {
-        for (const std::uint32_t handle : router.virtual_interfaces) {
-            line["virtual_interfaces"].push_back(hex(handle));
-        }
-    }
-    line["show_data"] = hex_of_bytes(capture.show_data);
-    return line.dump();
+    MemberReader reader;
+    const bool is_read = Json::sax_parse(line, &reader);
+    return finish(reader, is_read);
 }
 
 } // namespace l2fib
