@@ -4,8 +4,16 @@
 #include "client/hex_digits.h"
 #include "client/whole_number.h"
 
+#include <array>
+#include <cstdint>
+#include <iterator>
 #include <limits>
+#include <map>
 #include <nlohmann/json.hpp>
+#include <optional>
+#include <span>
+#include <utility>
+#include <vector>
 
 namespace l2fib
 {
@@ -58,8 +66,11 @@ static bool set_show_data(Draft &draft, const std::string &text)
 
 static bool set_time_zone(Draft &draft, const std::string &zone)
 {
+    if (!is_time_zone(zone)) {
+        return refuse(draft, "no time zone: " + spelled_out(zone));
+    }
     draft.capture.router.time_zone = zone;
-    return is_time_zone(zone) || refuse(draft, "no time zone: " + spelled_out(zone));
+    return true;
 }
 
 /// A member of a capture. It has a text or a number; a number may be written as a text, "0x1e1000".
@@ -94,7 +105,24 @@ static constexpr Member members[] = {
     {"show_data", nullptr, set_show_data},
 };
 
-using Json = nlohmann::ordered_json;
+/// What the parser makes of a number with a fraction or an exponent, or of one that 64 bits do not hold: nothing, as no
+/// member is one. A double in its place would have the parser refuse the line for 1e400, even where it is passed over.
+class PassedOverNumber
+{
+public:
+    PassedOverNumber(double /*value*/) {}
+
+    /// Where the parser reads it to.
+    operator long double &() { return unread_; }
+    /// By which it sees that the number is not too large.
+    operator long double() const { return 0; }
+
+private:
+    long double unread_ = 0;
+};
+
+using Json =
+    nlohmann::basic_json<std::map, std::vector, std::string, bool, std::int64_t, std::uint64_t, PassedOverNumber>;
 
 /// Takes a capture member by member as the parser meets them, and nothing else: what a file may hold beside captures
 /// takes no memory.
@@ -129,12 +157,14 @@ public:
 
     bool key(std::string &name) override
     {
-        if (depth_ == 1) {
-            member_ = nullptr; // of a later version, or somebody's own
-            for (const Member &member : members) {
-                if (name == member.name) {
-                    member_ = &member;
-                }
+        if (depth_ != 1) {
+            return true;
+        }
+        member_ = nullptr; // of a later version, or somebody's own
+        for (std::size_t i = 0; i < std::size(members); ++i) {
+            if (name == members[i].name) {
+                member_ = &members[i];
+                return blame(!std::exchange(is_given_[i], true) || refuse(draft, "given twice"));
             }
         }
         return true;
@@ -185,6 +215,7 @@ private:
     }
 
     unsigned depth_ = 0;
+    std::array<bool, std::size(members)> is_given_{};
     const Member *member_ = nullptr;
 };
 
@@ -218,10 +249,30 @@ static CaptureLine finish(MemberReader &reader, bool is_read)
     return {std::move(draft.capture), {}};
 }
 
+/// A line whose tabs between the values are blanks. When the parser meets an error it makes texts, for nobody, of what
+/// it has read: with eight characters for each tab, they would take most of the memory that replay ever needs.
+static std::string without_tabs(std::string_view line)
+{
+    std::string changed(line);
+    bool is_in_string = false;
+    bool is_escaped = false;
+    for (char &c : changed) {
+        if (is_in_string) {
+            is_in_string = c != '"' || is_escaped;
+            is_escaped = c == '\\' && !is_escaped;
+        } else if (c == '\t' || c == '\r') {
+            c = ' ';
+        } else {
+            is_in_string = c == '"';
+        }
+    }
+    return changed;
+}
+
 CaptureLine parse_capture(std::string_view line)
 {
     MemberReader reader;
-    const bool is_read = Json::sax_parse(line, &reader);
+    const bool is_read = Json::sax_parse(without_tabs(line), &reader);
     return finish(reader, is_read);
 }
 
