@@ -2,7 +2,6 @@
 // with every piece of text through printf (the baseline), and their text, ready, through one fwrite an object (the
 // floor); and how long it takes to read captures.
 #include "client/capture_reader.h"
-#include "client/held_output.h"
 #include "client/input.h"
 #include "examples/sample_lines.h"
 #include "zel_l2fib/show.h"
@@ -17,6 +16,7 @@
 #include <string>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace l2fib
 {
@@ -275,16 +275,28 @@ private:
     std::vector<double> bytes_per_second_;
 };
 
+/// What a call prints. (glibc lets stdout be another stream for a while.)
+static std::string text_of(const std::function<void()> &call)
+{
+    char *text = nullptr;
+    std::size_t size = 0;
+    std::FILE *screen = std::exchange(stdout, open_memstream(&text, &size));
+    call();
+    std::fclose(std::exchange(stdout, screen));
+    std::string copy(text, size);
+    std::free(text);
+    return copy;
+}
+
 static std::vector<Subject> make_subjects()
 {
     std::vector<Subject> subjects;
-    HeldOutput held;
     for (const SampleCapture &sample : sample_captures) {
         Capture capture = parse_capture(sample_line(sample)).capture;
         const Show show = show_of(*capture.object);
         Bytes scratch = capture.show_data;
-        const std::string_view text = held.text_of([&] { show(the_library, capture, scratch); });
-        Subject subject{sample.name, std::move(capture), show, std::string(text)};
+        std::string text = text_of([&] { show(the_library, capture, scratch); });
+        Subject subject{sample.name, std::move(capture), show, std::move(text)};
         subjects.push_back(std::move(subject));
     }
     return subjects;

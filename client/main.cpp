@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <exception>
 #include <limits>
+#include <new>
 #include <sstream>
 
 namespace l2fib
@@ -255,9 +256,12 @@ static ExitStatus run(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    std::signal(SIGPIPE, SIG_IGN); // a closed pipe is an output that did not arrive
+    std::signal(SIGPIPE, SIG_IGN); // a closed pipe and a file that may not grow are outputs that did not arrive
+    std::signal(SIGXFSZ, SIG_IGN);
     try {
         return l2fib::run(argc, argv);
+    } catch (const std::bad_alloc &) {
+        return l2fib::complain("out of memory");
     } catch (const std::exception &error) {
         return l2fib::complain(error.what());
     }

@@ -128,6 +128,12 @@ fails_to_write replay --count "$ac"
 fails_to_write ac "$capture"
 fails_to_write capture ac "$capture"
 fails_to_write --help
+(ulimit -f 1 && "$show" ac "$capture" >limited 2>stderr; echo $? >status)
+if [ "$(cat status)" -ne 2 ] || [ "$(cat stderr)" != 'l2fib-show: standard output: File too large' ]; then
+    echo "a file that may not grow: exit status $(cat status)"
+    cat stderr
+    failures=$((failures + 1))
+fi
 for i in 1 2 3 4 5 6 7 8; do cat "$source/examples/resources.jsonl" "$source/examples/resources.jsonl"; done >many
 ("$show" replay many 2>stderr; echo $? >status) | head -c 1 >/dev/null
 if [ "$(cat status)" -ne 2 ] || [ "$(cat stderr)" != 'l2fib-show: standard output: Broken pipe' ]; then
