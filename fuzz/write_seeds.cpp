@@ -1,6 +1,6 @@
 // Writes the inputs that the targets start from, made of the sample captures: write-seeds DIRECTORY
-#include "client/capture.h"
-#include "client/hex.h"
+#include "client/capture_writer.h"
+#include "client/hex_digits.h"
 #include "common/show_data.h"
 #include "examples/sample_lines.h"
 #include "examples/show_data_builder.h"
@@ -10,6 +10,7 @@
 #include "rp/names.h"
 #include "zel_l2fib/show.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -51,7 +52,7 @@ static Call call_for(const SampleCapture &sample)
     Call call{};
     set(call.objtype, row_named(objects(), sample.object)->objtype);
     set(call.direction, row_named(directions(), sample.direction)->number);
-    set(call.view_flags, row_named(views(), sample.view)->number);
+    set(call.view_flags, row_named(views(), sample.view)->flags);
     set(call.card_type, supported_card);
     set(call.monotonic_seconds, uptime);
     return call;
@@ -73,14 +74,20 @@ static std::optional<SummaryFunction> summary_function(std::string_view object)
 }
 
 /// A dump as xxd has it, in lines of 16 bytes.
-static std::string xxd_of(const std::string &digits)
+static std::string xxd_of(const std::vector<std::uint8_t> &bytes)
 {
-    constexpr std::size_t line_digits = 32;
+    constexpr std::size_t line_size = 16;
     std::string text;
-    for (std::size_t at = 0; at < digits.size(); at += line_digits) {
+    for (std::size_t begin = 0; begin < bytes.size(); begin += line_size) {
         std::array<char, sizeof "00000000: "> offset{};
-        std::snprintf(offset.data(), offset.size(), "%08zx: ", at / 2);
-        text += offset.data() + digits.substr(at, line_digits) + "  ................\n";
+        std::snprintf(offset.data(), offset.size(), "%08zx: ", begin);
+        const auto *first = bytes.data() + begin;
+        const std::vector<std::uint8_t> line(first, first + std::min(line_size, bytes.size() - begin));
+        text += offset.data() + hex_of_bytes(line) + "  ";
+        for (const std::uint8_t byte : line) {
+            text += byte >= ' ' && byte <= '~' ? static_cast<char>(byte) : '.';
+        }
+        text += '\n';
     }
     return text;
 }
@@ -108,10 +115,11 @@ static void write_seeds(SeedWriter &seeds, const SampleCapture &sample)
     const std::string line = sample_line(sample);
     seeds.write("capture", name, line);
     seeds.write("lines", name, '\x50' + line + '\n' + line.substr(0, 70) + "\n\n" + line);
-    const std::string digits = hex_of_bytes(show_data);
-    constexpr std::size_t enough = 200;
-    seeds.write("dump", name + "-plain", '\xff' + digits.substr(0, enough));
-    seeds.write("dump", name + "-xxd", '\xff' + xxd_of(digits.substr(0, enough)));
+    constexpr std::size_t enough = 100;
+    const auto size = static_cast<std::ptrdiff_t>(std::min(enough, show_data.size()));
+    const std::vector<std::uint8_t> dumped(show_data.begin(), show_data.begin() + size);
+    seeds.write("dump", name + "-plain", '\xff' + hex_of_bytes(dumped));
+    seeds.write("dump", name + "-xxd", '\xff' + xxd_of(dumped));
 }
 
 /// What makes the library ask its router: an interface that may be virtual, and stamps without the clocks to go with
@@ -150,6 +158,11 @@ int main(int argc, char **argv)
                 "*\n"
                 "00000020  41 42 43  |ABC|\n"
                 "00000023\n");
+    seeds.write("dump", "od",
+                "\xff"
+                "000000 61 7c 3e 00  >a|>.<\n"
+                "*\n"
+                "00000c\n");
     seeds.write("capture", "alike",
                 R"({"show_data": "00", "object": "mac"})"
                 "\n"

@@ -1,5 +1,5 @@
 // The sample captures: the library as a show client meets it.
-#include "client/capture.h"
+#include "client/capture_line.h"
 #include "examples/sample_lines.h"
 #include "tests/support/printed.h"
 #include "zel_l2fib/show.h"
