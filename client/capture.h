@@ -27,7 +27,7 @@ struct Capture {
     std::uint32_t show() { return show(show_data.empty() ? std::span<std::uint8_t>{} : show_data); }
 
     /// Shows other show data in place of its own, as the same object on the same router.
-    std::uint32_t show(std::span<std::uint8_t> other_data) const;
+    std::uint32_t show(std::span<std::uint8_t> other_data, const Library &library = router_library) const;
 };
 
 } // namespace l2fib

@@ -9,13 +9,21 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <limits>
 #include <new>
 #include <sstream>
+#include <unistd.h>
 
 namespace l2fib
 {
+
+/// How the command line asks for something to be shown.
+struct RenderingOptions {
+    Rendering rendering;
+    std::string color = "auto";
+};
 
 /// What is said of one object on the command line.
 struct Request {
@@ -24,6 +32,7 @@ struct Request {
     std::optional<std::uint64_t> wall_seconds;
     std::optional<HexForm> hex;
     std::string file;
+    RenderingOptions rendering;
 };
 
 template <class Row>
@@ -115,6 +124,26 @@ static void add_input(CLI::App &app, Request &request)
     app.add_option("FILE", request.file, "Show data; - for standard input")->required()->type_name("");
 }
 
+static void add_rendering(CLI::App &app, RenderingOptions &options)
+{
+    app.add_flag("--json", options.rendering.json, "Print JSON, an object on each line");
+    app.add_flag("--bytes", options.rendering.bytes,
+                 "Print the bytes of the show data with what they are; also as JSON");
+    app.add_option("--color", options.color, "Colour bytes: auto (on a terminal, the default), always or never")
+        ->check(CLI::IsMember({"auto", "always", "never"}))
+        ->type_name("WHEN");
+}
+
+/// The rendering that is asked for; NO_COLOR in the environment means never.
+static Rendering rendering_of(const RenderingOptions &options)
+{
+    Rendering rendering = options.rendering;
+    const char *no_color = std::getenv("NO_COLOR");
+    const bool is_welcome = isatty(STDOUT_FILENO) != 0 && (no_color == nullptr || *no_color == '\0');
+    rendering.colored = options.color == "always" || (options.color == "auto" && is_welcome);
+    return rendering;
+}
+
 static void add_example(CLI::App &app, const std::string &example)
 {
     app.footer("Example:\n  " + example);
@@ -128,6 +157,7 @@ static void add_object_command(CLI::App &app, const Object &object, Request &req
     }
     add_router(command, request);
     add_input(command, request);
+    add_rendering(command, request.rendering);
     add_example(command, std::string("l2fib-show ") + object.name + " --hex dump.txt");
     command.callback([&request, &object] { request.capture.object = &object; });
 }
@@ -147,7 +177,7 @@ static CLI::App *add_capture_command(CLI::App &app, Request &request)
     return &command;
 }
 
-static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options)
+static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options, RenderingOptions &rendering)
 {
     CLI::App &command = *app.add_subcommand("replay", "Show the captures of files");
     Selection &selection = options.selection;
@@ -170,6 +200,7 @@ static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options)
     command.add_flag("--heading", options.heading, "Print a line in front of each object that says which it is");
     command.add_option("FILE", options.files, "Captures, one a line; - for standard input (the default)")
         ->type_name("");
+    add_rendering(command, rendering);
     add_example(command, "l2fib-show replay --object ac --status failed router.jsonl");
     return &command;
 }
@@ -194,7 +225,9 @@ static ExitStatus show(Request &request)
     if (!complete(request)) {
         return unusable;
     }
-    const std::uint32_t status = request.capture.show();
+    Renderer renderer(rendering_of(request.rendering));
+    const std::uint32_t status = renderer.show(request.capture);
+    renderer.flush();
     if (!output_arrived()) {
         return unusable;
     }
@@ -233,7 +266,7 @@ static ExitStatus run(int argc, char **argv)
     }
     const CLI::App *capture_command = add_capture_command(app, request);
     ReplayOptions replay_options;
-    const CLI::App *replay_command = add_replay_command(app, replay_options);
+    const CLI::App *replay_command = add_replay_command(app, replay_options, request.rendering);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success &asked) {
@@ -247,6 +280,7 @@ static ExitStatus run(int argc, char **argv)
         return complain("an object is required; see l2fib-show --help");
     }
     if (replay_command->parsed()) {
+        replay_options.rendering = rendering_of(request.rendering);
         return replay(replay_options);
     }
     return capture_command->parsed() ? capture(request) : show(request);

@@ -11,27 +11,32 @@
 namespace l2fib
 {
 
-static std::uint32_t show_object(const Object &object, const ViewArguments &arguments,
+constexpr Library router_library{zel_l2fib_print_internal, zel_l2fib_platform_summary_hw_print_internal,
+                                 zel_l2fib_platform_msg_counter_hw_print_internal, zel_l2fib_trident_print_summary};
+
+static std::uint32_t show_object(const Library &library, const Object &object, const ViewArguments &arguments,
                                  std::span<std::uint8_t> show_data)
 {
-    return zel_l2fib_print_internal(object.objtype, arguments.node, arguments.direction, arguments.view_flags,
-                                    show_data.data(), show_data.size());
+    return library.print_object(object.objtype, arguments.node, arguments.direction, arguments.view_flags,
+                                show_data.data(), show_data.size());
 }
 
-static std::uint32_t show_state_summary(const Object &, const ViewArguments &arguments,
+static std::uint32_t show_state_summary(const Library &library, const Object &, const ViewArguments &arguments,
                                         std::span<std::uint8_t> show_data)
 {
-    return zel_l2fib_platform_summary_hw_print_internal(arguments.node, 0, show_data.data(), show_data.size());
+    return library.print_state_summary(arguments.node, 0, show_data.data(), show_data.size());
 }
 
-static std::uint32_t show_counters(const Object &, const ViewArguments &arguments, std::span<std::uint8_t> show_data)
+static std::uint32_t show_counters(const Library &library, const Object &, const ViewArguments &arguments,
+                                   std::span<std::uint8_t> show_data)
 {
-    return zel_l2fib_platform_msg_counter_hw_print_internal(arguments.node, 0, show_data.data(), show_data.size());
+    return library.print_event_statistics(arguments.node, 0, show_data.data(), show_data.size());
 }
 
-static std::uint32_t show_hal_summary(const Object &, const ViewArguments &, std::span<std::uint8_t> show_data)
+static std::uint32_t show_hal_summary(const Library &library, const Object &, const ViewArguments &,
+                                      std::span<std::uint8_t> show_data)
 {
-    return zel_l2fib_trident_print_summary(0, show_data.data(), show_data.size());
+    return library.print_hal_summary(0, show_data.data(), show_data.size());
 }
 
 static constexpr View view_table[] = {

@@ -1,6 +1,8 @@
 // What l2fib-show can show, by the names that its commands and captures have for it.
 #pragma once
 
+#include "zel_l2fib/show.h"
+
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -28,12 +30,22 @@ struct ViewArguments {
     std::uint32_t view_flags;
 };
 
+/// The functions that show something: the router's library, or the recording build of it.
+struct Library {
+    decltype(&zel_l2fib_print_internal) print_object;
+    decltype(&zel_l2fib_platform_summary_hw_print_internal) print_state_summary;
+    decltype(&zel_l2fib_platform_msg_counter_hw_print_internal) print_event_statistics;
+    decltype(&zel_l2fib_trident_print_summary) print_hal_summary;
+};
+extern const Library router_library;
+
 struct Object {
     const char *name;
     const char *description;
     std::uint32_t objtype;    ///< none for a summary
     const View *default_view; ///< null for what has no views and no direction
-    std::uint32_t (*show)(const Object &object, const ViewArguments &arguments, std::span<std::uint8_t> show_data);
+    std::uint32_t (*show)(const Library &library, const Object &object, const ViewArguments &arguments,
+                          std::span<std::uint8_t> show_data);
     std::size_t xid_offset = 0; ///< of its cross-connect ID in the show data; 0 when it has none
 
     [[nodiscard]] bool has_views() const { return default_view != nullptr; }

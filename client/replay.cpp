@@ -47,6 +47,29 @@ public:
         std::printf("%-12s %-13s %10zu\n", "all", "", total);
     }
 
+    /// The same as a line of JSON.
+    void write(recording::JsonWriter &json) const
+    {
+        std::uint64_t total = 0;
+        json.open_line();
+        json.member("format", std::uint64_t{1});
+        for (const auto &[row, count] : counts_) {
+            const auto &[object, view, status] = row;
+            json.open_element("counts");
+            json.member("object", std::string_view(object));
+            if (view != "-") {
+                json.member("view", std::string_view(view));
+            }
+            json.member("status", std::uint64_t{status});
+            json.member("status_text", std::string_view(text_of_status(status)));
+            json.member("count", std::uint64_t{count});
+            json.close_object();
+            total += count;
+        }
+        json.member("all", total);
+        json.close_line();
+    }
+
 private:
     std::map<std::tuple<std::string, std::string, std::uint32_t>, std::size_t> counts_;
 };
@@ -63,7 +86,7 @@ struct Place {
 class Replay
 {
 public:
-    explicit Replay(const ReplayOptions &options) : options_(options) {}
+    explicit Replay(const ReplayOptions &options) : options_(options), renderer_(options.rendering) {}
 
     void file(const std::string &path);
 
@@ -71,8 +94,9 @@ public:
     {
         progress_.clear();
         if (options_.count) {
-            tally_.print();
+            options_.rendering.json ? tally_.write(renderer_.json()) : tally_.print();
         }
+        renderer_.flush();
         return output_arrived() ? exit_status_ : unusable;
     }
 
@@ -91,6 +115,7 @@ private:
 
     const ReplayOptions &options_;
     Progress progress_;
+    Renderer renderer_;
     CaptureReader reader_;
     Capture tried_; ///< keeps its memory
     Tally tally_;
@@ -155,8 +180,11 @@ void Replay::show(Capture &capture, const Place &place)
         }
     }
     print_heading(capture, place);
-    const std::uint32_t status = capture.show();
-    if (status != 0) {
+    const Origin origin{place.file, place.line};
+    const std::uint32_t status = renderer_.show(capture, options_.heading ? &origin : nullptr);
+    if (status != 0 && options_.rendering.json) {
+        note(view_failed); // the line says how
+    } else if (status != 0) {
         progress_.clear();
         note(report_status(status, place.text() + ": "));
     }
@@ -164,7 +192,7 @@ void Replay::show(Capture &capture, const Place &place)
 
 void Replay::print_heading(const Capture &capture, const Place &place)
 {
-    if (!options_.heading) {
+    if (!options_.heading || options_.rendering.json) {
         return;
     }
     const View *view = capture.shown_view();

@@ -3,6 +3,7 @@
 
 #include "client/capture.h"
 #include "client/diagnostics.h"
+#include "client/rendering.h"
 
 #include <optional>
 #include <string>
@@ -25,7 +26,8 @@ struct Selection {
 struct ReplayOptions {
     std::vector<std::string> files; ///< standard input when there are none
     Selection selection;
-    bool count = false;   ///< a table of what there is, in place of the text
+    bool count = false; ///< a table of what there is, in place of the text
+    Rendering rendering;
     bool heading = false; ///< a line in front of each object
 };
 
