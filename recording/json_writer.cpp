@@ -1,116 +1,129 @@
 #include "recording/json_writer.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstring>
 
 namespace recording
 {
 
 void JsonWriter::flush()
 {
-    std::fwrite(buffer_.data(), 1, buffer_.size(), stream_); // what does not arrive is the stream's to tell its owner
-    buffer_.clear();
+    std::fwrite(buffer_.get(), 1, size_, stream_); // what does not arrive is the stream's to tell its owner
+    size_ = 0;
+}
+
+inline void JsonWriter::put(char c)
+{
+    if (size_ == buffer_size) {
+        flush();
+    }
+    buffer_[size_++] = c;
+}
+
+inline void JsonWriter::put(std::string_view json)
+{
+    if (json.size() > buffer_size - size_) {
+        flush();
+    }
+    if (json.size() > buffer_size) {
+        std::fwrite(json.data(), 1, json.size(), stream_);
+        return;
+    }
+    std::memcpy(&buffer_[size_], json.data(), json.size());
+    size_ += json.size();
 }
 
 void JsonWriter::open_line()
 {
     depth_ = 0;
-    buffer_ += '{';
     scopes_.resize(1);
     scopes_[0] = {};
+    put('{');
 }
 
 void JsonWriter::close_line()
 {
-    constexpr std::size_t enough = std::size_t{1} << 16U;
     end_elements();
-    buffer_ += "}\n";
-    if (buffer_.size() >= enough) {
-        flush();
-    }
+    put("}\n");
 }
 
-void JsonWriter::separate()
+inline void JsonWriter::separate()
 {
     if (scopes_[depth_].has_members) {
-        buffer_ += ',';
+        put(',');
     }
     scopes_[depth_].has_members = true;
 }
 
-void JsonWriter::end_elements()
+inline void JsonWriter::end_elements()
 {
-    std::string &array = scopes_[depth_].array;
-    if (!array.empty()) {
-        buffer_ += ']';
-        array.clear();
+    if (scopes_[depth_].has_elements) {
+        put(']');
+        scopes_[depth_].has_elements = false;
     }
 }
 
-void JsonWriter::key(std::string_view key)
+inline void JsonWriter::key(std::string_view key)
 {
     end_elements();
     separate();
-    buffer_ += '"';
-    buffer_ += key;
-    buffer_ += "\":";
+    put('"');
+    put(key);
+    put("\":");
+}
+
+/// Makes a new scope the current one.
+void JsonWriter::enter()
+{
+    if (++depth_ == scopes_.size()) {
+        scopes_.emplace_back();
+    }
+    scopes_[depth_].has_members = false;
+    scopes_[depth_].has_elements = false;
 }
 
 void JsonWriter::open_object(std::string_view name)
 {
-    if (name.empty()) {
-        separate();
-    } else {
-        key(name);
-    }
-    buffer_ += '{';
-    if (++depth_ == scopes_.size()) {
-        scopes_.emplace_back();
-    }
-    scopes_[depth_].has_members = false;
+    key(name);
+    put('{');
+    enter();
 }
 
 void JsonWriter::open_element(std::string_view name)
 {
-    constexpr std::size_t enough = std::size_t{1} << 16U;
-    if (buffer_.size() >= enough) {
-        flush();
-    }
-    if (scopes_[depth_].array == name) {
-        buffer_ += ',';
+    Scope &scope = scopes_[depth_];
+    if (scope.has_elements && scope.array == name) {
+        put(',');
     } else {
         key(name);
-        buffer_ += '[';
-        scopes_[depth_].array = name;
+        put('[');
+        scope.has_elements = true;
+        scope.array = name;
     }
-    buffer_ += '{';
-    if (++depth_ == scopes_.size()) {
-        scopes_.emplace_back();
-    }
-    scopes_[depth_].has_members = false;
+    put('{');
+    enter();
 }
 
 void JsonWriter::close_object()
 {
     end_elements();
     --depth_;
-    buffer_ += '}';
+    put('}');
 }
 
 void JsonWriter::open_array(std::string_view name)
 {
     key(name);
-    buffer_ += '[';
-    if (++depth_ == scopes_.size()) {
-        scopes_.emplace_back();
-    }
-    scopes_[depth_].has_members = false;
+    put('[');
+    enter();
 }
 
 void JsonWriter::close_array()
 {
     --depth_;
-    buffer_ += ']';
+    put(']');
 }
 
 void JsonWriter::member(std::string_view name, std::string_view text)
@@ -128,13 +141,13 @@ void JsonWriter::member(std::string_view name, std::uint64_t number)
 void JsonWriter::member(std::string_view name, bool truth)
 {
     key(name);
-    buffer_ += truth ? "true" : "false";
+    put(truth ? std::string_view("true") : std::string_view("false"));
 }
 
 void JsonWriter::json_member(std::string_view name, std::string_view json)
 {
     key(name);
-    buffer_ += json;
+    put(json);
 }
 
 void JsonWriter::element(std::string_view text)
@@ -153,28 +166,31 @@ void JsonWriter::put_number(std::uint64_t number)
 {
     std::array<char, 20> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    buffer_.append(digits.data(), end);
+    put({digits.data(), static_cast<std::size_t>(end - digits.data())});
+}
+
+static bool is_plain(char c)
+{
+    return c >= ' ' && c <= '~' && c != '"' && c != '\\';
 }
 
 /// Bytes that are no ASCII become the characters of the same number, so that they can be told again.
 void JsonWriter::put_text(std::string_view text)
 {
     constexpr std::string_view hex = "0123456789abcdef";
-    buffer_ += '"';
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte >= 0x20 && byte < 0x7f && c != '"' && c != '\\') {
-            buffer_ += c;
-        } else if (c == '"' || c == '\\') {
-            buffer_ += '\\';
-            buffer_ += c;
-        } else {
-            buffer_ += "\\u00";
-            buffer_ += hex[byte >> 4U];
-            buffer_ += hex[byte & 0xfU];
+    put('"');
+    while (!text.empty()) {
+        const auto odd = static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), is_plain) - text.begin());
+        put(text.substr(0, odd));
+        if (odd == text.size()) {
+            break;
         }
+        const auto byte = static_cast<unsigned char>(text[odd]);
+        const char escaped[] = {'\\', 'u', '0', '0', hex[byte >> 4U], hex[byte & 0xfU]};
+        put({escaped, sizeof escaped});
+        text.remove_prefix(odd + 1);
     }
-    buffer_ += '"';
+    put('"');
 }
 
 } // namespace recording

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,17 +48,24 @@ public:
 private:
     struct Scope {
         bool has_members = false;
-        std::string array; ///< the key of the array of elements that is open, if one is
+        bool has_elements = false; ///< whether an array of elements is open
+        std::string array;         ///< the key of it
     };
 
     void separate();
     void key(std::string_view key);
     void end_elements();
+    void enter();
+    void put(char c);
+    void put(std::string_view json);
     void put_text(std::string_view text);
     void put_number(std::uint64_t number);
 
+    static constexpr std::size_t buffer_size = std::size_t{1} << 16U;
+
     std::FILE *stream_;
-    std::string buffer_;
+    std::unique_ptr<char[]> buffer_ = std::make_unique<char[]>(buffer_size);
+    std::size_t size_ = 0; ///< of what is in the buffer
     std::vector<Scope> scopes_;
     std::size_t depth_ = 0;
 };

@@ -80,6 +80,23 @@ struct Table<Fields<members...>> {
         return std::array{field_info<Type<members>>(field_name<members>(), offset)...};
     }
     static constexpr std::array<FieldInfo, sizeof...(members)> fields = make();
+
+    static constexpr std::size_t size = (sizeof(Type<members>) + ...);
+    static constexpr std::size_t longest_table = 4096;
+    static_assert(sizeof...(members) <= 256);
+
+    static constexpr auto field_at = [] {
+        std::array<std::uint8_t, (size <= longest_table ? size : 0)> table{};
+        std::uint8_t index = 0;
+        for (const FieldInfo &field : fields) {
+            for (std::size_t at = field.offset; at < std::min(field.offset + field.size * field.count, table.size());
+                 ++at) {
+                table[at] = index;
+            }
+            ++index;
+        }
+        return table;
+    }();
 };
 
 template <class Record>
@@ -98,7 +115,8 @@ consteval std::string_view record_name()
 template <class Piece>
 struct PieceInfo {
     static constexpr recording::RecordInfo info{record_fields::record_name<Piece>(), sizeof(Piece),
-                                                record_fields::Table<typename Piece::Fields>::fields};
+                                                record_fields::Table<typename Piece::Fields>::fields,
+                                                record_fields::Table<typename Piece::Fields>::field_at};
 };
 template <class Record>
 struct PieceInfo<Received<Record>> : PieceInfo<Record> {

@@ -39,6 +39,7 @@ struct RecordInfo {
     std::string_view name;
     std::size_t size;
     std::span<const FieldInfo> fields;
+    std::span<const std::uint8_t> field_at; ///< the index of the field at each offset; none of very long records
 };
 
 /// Where a printed value comes from.

@@ -76,17 +76,26 @@ const ShowDataMap::Run *ShowDataMap::run_at(std::size_t offset) const
     return found == runs_.rend() ? nullptr : &*found;
 }
 
+static const FieldInfo &field_at(const RecordInfo &type, std::size_t offset)
+{
+    if (!type.field_at.empty()) {
+        return type.fields[type.field_at[offset]];
+    }
+    const auto after = std::upper_bound(type.fields.begin(), type.fields.end(), offset,
+                                        [](std::size_t at, const FieldInfo &field) { return at < field.offset; });
+    return *std::prev(after);
+}
+
 /// The field of a record at an offset of its own.
 static Place place_in(const RecordInfo &type, std::size_t offset)
 {
-    const auto after = std::upper_bound(type.fields.begin(), type.fields.end(), offset,
-                                        [](std::size_t at, const FieldInfo &field) { return at < field.offset; });
-    const FieldInfo &field = *std::prev(after);
+    const FieldInfo &field = field_at(type, offset);
     const std::size_t within = offset - field.offset;
+    const std::size_t index = within < field.size ? 0 : within / field.size; // divisions take their time
     if (field.record != nullptr) {
-        return place_in(*field.record, within % field.size);
+        return place_in(*field.record, within - index * field.size);
     }
-    return {0, &field, within / field.size};
+    return {0, &field, index};
 }
 
 std::optional<Place> ShowDataMap::place_of(const void *address) const
@@ -96,7 +105,11 @@ std::optional<Place> ShowDataMap::place_of(const void *address) const
         return std::nullopt;
     }
     const Run *run = run_at(*offset);
-    Place place = run == nullptr ? Place{} : place_in(*run->type, (*offset - run->offset) % run->size);
+    Place place;
+    if (run != nullptr) {
+        const std::size_t within = *offset - run->offset;
+        place = place_in(*run->type, within < run->size ? within : within % run->size);
+    }
     place.offset = *offset;
     return place;
 }
