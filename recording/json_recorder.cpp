@@ -52,6 +52,32 @@ void JsonRecorder::close()
     json_.close_object();
 }
 
+/// A number in JSON. What reads JSON keeps no more than 53 bits of one, so that a longer one is a text.
+class JsonNumber
+{
+public:
+    JsonNumber(std::uint64_t number, bool is_signed, bool is_wide)
+    {
+        char *at = text_.data();
+        char *const end = at + text_.size() - 1;
+        if (is_wide) {
+            *at++ = '"';
+        }
+        at = is_signed ? std::to_chars(at, end, static_cast<std::int64_t>(number)).ptr
+                       : std::to_chars(at, end, number).ptr;
+        if (is_wide) {
+            *at++ = '"';
+        }
+        size_ = static_cast<std::size_t>(at - text_.data());
+    }
+
+    [[nodiscard]] std::string_view json() const { return {text_.data(), size_}; }
+
+private:
+    std::array<char, 24> text_;
+    std::size_t size_;
+};
+
 /// A member that goes with another one.
 void JsonRecorder::companion(std::string_view key, std::string_view suffix, std::string_view json)
 {
@@ -60,28 +86,19 @@ void JsonRecorder::companion(std::string_view key, std::string_view suffix, std:
     json_.json_member(companion_, json);
 }
 
-static std::string decimal(const Value &value, std::uint64_t number)
-{
-    std::array<char, 24> digits{};
-    char *const begin = digits.data();
-    char *const end = begin + digits.size();
-    const bool is_signed = value.kind == Value::signed_number;
-    const auto result =
-        is_signed ? std::to_chars(begin, end, static_cast<std::int64_t>(number)) : std::to_chars(begin, end, number);
-    const std::string text(begin, result.ptr);
-    return value.is_wide ? '"' + text + '"' : text; // what reads JSON keeps no more than 53 bits of a number
-}
-
 void JsonRecorder::number(std::string_view key, const Value &value)
 {
-    const bool is_signed_32 = value.kind == Value::signed_number && !value.is_wide;
+    const bool is_signed = value.kind == Value::signed_number;
     // Printed with "%d": the low 32 bits, with their sign.
-    const auto number =
-        is_signed_32 ? static_cast<std::uint64_t>(std::int64_t{static_cast<std::int32_t>(value.number)}) : value.number;
-    json_.json_member(key, decimal(value, number));
+    const std::uint64_t number = is_signed && !value.is_wide
+                                     ? static_cast<std::uint64_t>(std::int64_t{static_cast<std::int32_t>(value.number)})
+                                     : value.number;
+    json_.json_member(key, JsonNumber(number, is_signed, value.is_wide).json());
     if (value.kind == Value::hex_number) {
-        companion(key, "_hex",
-                  (value.label.ends_with("0x") ? "\"0x" : "\"") + std::string(trimmed(value.printed)) + '"');
+        hex_ = value.label.ends_with("0x") ? "\"0x" : "\"";
+        hex_ += trimmed(value.printed);
+        hex_ += '"';
+        companion(key, "_hex", hex_);
     }
 }
 
@@ -101,8 +118,8 @@ void JsonRecorder::value(const Value &value)
     default: number(key, value); break;
     }
     if (value.source.is_made && value.source.has_number && !value.source.is_part) {
-        const Value raw{Value::unsigned_number, value.source.width == sizeof(std::uint64_t), 0, {}, {}, {}};
-        companion(key, "_raw", decimal(raw, value.source.number));
+        const bool is_wide = value.source.width == sizeof(std::uint64_t);
+        companion(key, "_raw", JsonNumber(value.source.number, false, is_wide).json());
     }
 }
 

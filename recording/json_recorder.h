@@ -47,6 +47,7 @@ private:
     JsonWriter &json_;
     std::span<const std::uint8_t> received_;
     std::string companion_;
+    std::string hex_;
     std::vector<FailureNote> failures_;
     bool in_failure_ = false;
 

@@ -20,6 +20,8 @@ void ShowDataMap::begin(std::span<const std::uint8_t> show_data)
     show_data_ = show_data;
     runs_.clear();
     copies_.clear();
+    last_run_ = 0;
+    last_copy_ = 0;
 }
 
 std::optional<std::size_t> ShowDataMap::offset_of(const void *address) const
@@ -31,12 +33,17 @@ std::optional<std::size_t> ShowDataMap::offset_of(const void *address) const
     if (is_in(show_data_.data(), show_data_.size())) {
         return static_cast<std::size_t>(byte - show_data_.data());
     }
-    for (auto copy = copies_.rbegin(); copy != copies_.rend(); ++copy) {
-        if (is_in(copy->begin, copy->size)) {
-            return copy->offset + static_cast<std::size_t>(byte - copy->begin);
+    // Most often it is the copy that the last address was in.
+    const auto has = [&](const Copy &copy) { return is_in(copy.begin, copy.size); };
+    if (last_copy_ >= copies_.size() || !has(copies_[last_copy_])) {
+        const auto found = std::find_if(copies_.rbegin(), copies_.rend(), has);
+        if (found == copies_.rend()) {
+            return std::nullopt;
         }
+        last_copy_ = static_cast<std::size_t>(copies_.rend() - found) - 1;
     }
-    return std::nullopt;
+    const Copy &copy = copies_[last_copy_];
+    return copy.offset + static_cast<std::size_t>(byte - copy.begin);
 }
 
 void ShowDataMap::reached(const RecordInfo *type, const void *first, std::size_t size, std::size_t count)
@@ -52,6 +59,7 @@ void ShowDataMap::reached(const RecordInfo *type, const void *first, std::size_t
         runs_.erase(runs_.begin() + first_kept, runs_.end() - last_kept);
     }
     runs_.push_back({*offset, size, count, type});
+    last_run_ = runs_.size() - 1;
 }
 
 void ShowDataMap::copied(const void *to, const void *from, std::size_t size)
@@ -66,14 +74,23 @@ void ShowDataMap::copied(const void *to, const void *from, std::size_t size)
         return std::less<>{}(copy.begin, begin + size) && std::less<>{}(begin, copy.begin + copy.size);
     });
     copies_.push_back({begin, size, *offset});
+    last_copy_ = copies_.size() - 1;
 }
 
 const ShowDataMap::Run *ShowDataMap::run_at(std::size_t offset) const
 {
-    const auto found = std::find_if(runs_.rbegin(), runs_.rend(), [offset](const Run &run) {
+    // Most often it is the one that the last offset was in, unless another one has come since.
+    const auto has = [offset](const Run &run) {
         return offset >= run.offset && offset - run.offset < run.size * run.count;
-    });
-    return found == runs_.rend() ? nullptr : &*found;
+    };
+    if (last_run_ >= runs_.size() || !has(runs_[last_run_])) {
+        const auto found = std::find_if(runs_.rbegin(), runs_.rend(), has);
+        if (found == runs_.rend()) {
+            return nullptr;
+        }
+        last_run_ = static_cast<std::size_t>(runs_.rend() - found) - 1;
+    }
+    return &runs_[last_run_];
 }
 
 static const FieldInfo &field_at(const RecordInfo &type, std::size_t offset)

@@ -59,6 +59,8 @@ private:
     std::span<const std::uint8_t> show_data_;
     std::vector<Run> runs_;
     std::vector<Copy> copies_;
+    mutable std::size_t last_run_ = 0; // where the last answer was found
+    mutable std::size_t last_copy_ = 0;
     bool keeps_all_ = false;
 };
 
