@@ -219,7 +219,7 @@ static void measure_reading(benchmark::State &state, const CaptureFile &file)
         }
         state.SetIterationTime(cpu_seconds() - begin);
     }
-    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * captures_read));
+    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(captures_read));
 }
 
 /// Prints a line when a subject is measured in every way: the library's, the baseline's and the floor's, to /dev/null
