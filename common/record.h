@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
+#include <string_view>
 #include <type_traits>
 
 namespace l2fib
@@ -96,6 +97,16 @@ struct IsReadableAsReceived<InRecord> : std::bool_constant<all_are_readable(type
 };
 
 } // namespace record_fields
+
+/// The name of a field, as its record has it: the compiler puts it at the end of this function's own name.
+template <auto member>
+consteval std::string_view field_name()
+{
+    std::string_view name = __PRETTY_FUNCTION__;
+    name.remove_prefix(name.find("member = "));
+    name = name.substr(0, name.find_first_of(";]"));
+    return name.substr(name.rfind(':') + 1);
+}
 
 /// Converts neighbouring numbers of 16 bits in place, four at a time. A bridge has two hundred and more: one by one
 /// they cost a tenth of its view.

@@ -112,7 +112,8 @@ static bool is_beginning_of(const std::string &screen, const std::string &text)
 class Ladders : public Samples
 {
 protected:
-    /// The hardware's view of the first bytes, as from a client that calls it directly with a context that is converted.
+    /// The hardware's view of the first bytes, as from a client that calls it directly with a context that is
+    /// converted.
     [[nodiscard]] Shown show_hardware(std::size_t size) const
     {
         const std::uint32_t objtype = capture.object->objtype;

@@ -1,0 +1,98 @@
+// What lies where in show data: the fields of its records by their names.
+#pragma once
+
+#include "common/record.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace l2fib
+{
+
+/// A field, or an element of one that is an array.
+struct BufferField {
+    std::string name; ///< such as "np.xid.flags" or "np.bports[1].key.port_id"
+    std::size_t offset;
+    std::size_t width;
+    bool is_stored; ///< in the byte order of the line card
+};
+
+template <class Field>
+constexpr bool is_stored_number = false;
+template <class Integer>
+constexpr bool is_stored_number<AsStored<Integer>> = true;
+
+/// Records, one after the other.
+class BufferLayout
+{
+public:
+    template <class Record>
+    void add(const char *name)
+    {
+        add_field<Record>(name, size_);
+        size_ += sizeof(Record);
+    }
+
+    [[nodiscard]] const std::vector<BufferField> &fields() const { return fields_; }
+    [[nodiscard]] std::size_t size() const { return size_; }
+
+private:
+    template <class Record>
+    struct Inside { // of a record that tells nothing of its fields until it is converted
+        using Type = Record;
+    };
+    template <class Record>
+    struct Inside<Received<Record>> {
+        using Type = Record;
+    };
+    template <class Record>
+    struct Inside<StoredRecord<Record>> {
+        using Type = Record;
+    };
+
+    template <class Field>
+    void add_field(const std::string &name, std::size_t offset)
+    {
+        using Type = typename Inside<Field>::Type;
+        if constexpr (std::is_array_v<Type>) {
+            using Element = std::remove_extent_t<Type>;
+            for (std::size_t i = 0; i < std::extent_v<Type>; ++i) {
+                add_field<Element>(name + "[" + std::to_string(i) + "]", offset + i * sizeof(Element));
+            }
+        } else if constexpr (RecordWithFields<Type>) {
+            add_fields(name + ".", offset, typename Type::Fields{});
+        } else {
+            fields_.push_back({name, offset, sizeof(Type), is_stored_number<Type>});
+        }
+    }
+
+    template <auto... members>
+    void add_fields(const std::string &prefix, std::size_t offset, Fields<members...> /*list*/)
+    {
+        (add_field<record_fields::Type<members>>(prefix + std::string(field_name<members>()),
+                                                 offset + offset_of<members>()),
+         ...);
+    }
+
+    template <auto member>
+    static std::size_t offset_of()
+    {
+        static const record_fields::Record<member> record{};
+        return static_cast<std::size_t>(reinterpret_cast<const char *>(&(record.*member)) -
+                                        reinterpret_cast<const char *>(&record));
+    }
+
+    std::vector<BufferField> fields_;
+    std::size_t size_ = 0;
+};
+
+template <class... Records, class... Names>
+BufferLayout layout_of(const Names &...names)
+{
+    BufferLayout layout;
+    (layout.add<Records>(names), ...);
+    return layout;
+}
+
+} // namespace l2fib
