@@ -4,10 +4,10 @@
 #include "client/capture.h"
 #include "examples/sample_lines.h"
 #include "tests/support/golden.h"
+#include "tests/support/ladder.h"
 #include "tests/support/samples.h"
 #include "zel_l2fib/show.h"
 
-#include <iomanip>
 #include <regex>
 
 namespace l2fib
@@ -63,40 +63,6 @@ static std::string rung(const Shown &shown, const std::string &screen, std::size
     }
     return row.str();
 }
-
-/// Sizes one after the other, put together while the same is said of them.
-class Ladder
-{
-public:
-    void add(std::size_t size, const std::string &rung)
-    {
-        if (rung != rung_) {
-            end_row();
-            first_ = size;
-            rung_ = rung;
-        }
-        last_ = size;
-    }
-
-    std::string text()
-    {
-        end_row();
-        return text_.str();
-    }
-
-private:
-    void end_row()
-    {
-        if (!rung_.empty()) {
-            text_ << std::setw(5) << first_ << " .. " << std::setw(5) << last_ << "  " << rung_ << '\n';
-        }
-    }
-
-    std::ostringstream text_;
-    std::size_t first_ = 0;
-    std::size_t last_ = 0;
-    std::string rung_;
-};
 
 /// Whether what is shown is the beginning of the whole screen, but for a report at its end.
 static bool is_beginning_of(const std::string &screen, const std::string &text)

@@ -10,10 +10,12 @@
 #include "hw/uidb_entry.h"
 #include "hw/xid_entry.h"
 #include "rp/ac_context.h"
+#include "rp/bridge_context.h"
+#include "rp/bridge_mac_context.h"
 #include "rp/bridge_port_context.h"
 #include "rp/next_hop_context.h"
 #include "rp/pw_context.h"
-#include "tests/support/printed.h"
+#include "tests/support/golden.h"
 #include "zel_l2fib/show.h"
 
 #include <gtest/gtest.h>
@@ -35,77 +37,66 @@ struct RecordCase {
 };
 
 template <class Record>
-static Record &record(Wire &bytes)
+static Received<Record> &received(Wire &bytes)
 {
-    return ShowData::promised<Record>(bytes.data());
+    return ShowData::unchecked<Received<Record>>(bytes.data());
 }
 
-/// The RP's part of the detail view, as from a client that calls it directly.
-static auto rp_detail(std::uint32_t objtype)
+/// The RP's part of a view, as from a client that calls it directly.
+template <decltype(zel_l2fib_print_internal_detail) *view>
+static auto rp_part(std::uint32_t objtype)
 {
     return [objtype](Output &, Wire &bytes) {
         zel_l2fib_hal_print[1].object_print = nullptr;
-        zel_l2fib_print_internal_detail(objtype, 0, L2FIB_INGRESS, L2FIB_VIEW_DETAIL, bytes.data(), bytes.size());
+        view(objtype, 0, L2FIB_INGRESS, 0, bytes.data(), bytes.size());
     };
 }
-
-/// The same for the private view.
-static auto rp_private(std::uint32_t objtype)
-{
-    return [objtype](Output &, Wire &bytes) {
-        zel_l2fib_hal_print[1].object_print = nullptr;
-        zel_l2fib_print_internal_private(objtype, 0, L2FIB_INGRESS, L2FIB_VIEW_PRIVATE, bytes.data(), bytes.size());
-    };
-}
+constexpr auto rp_detail = rp_part<zel_l2fib_print_internal_detail>;
+constexpr auto rp_private = rp_part<zel_l2fib_print_internal_private>;
 
 static void mac_scan(Output &out, Wire &bytes)
 {
-    auto &scan = record<MacScan>(bytes);
-    scan.to_host();
-    print_mac_scan(out, scan);
+    print_mac_scan(out, received<MacScan>(bytes).to_host());
 }
 
 static void xid_entry(Output &out, Wire &bytes)
 {
-    zel_l2fib_print_xid_entry(out, 0, 0x12, &record<XidEntry>(bytes));
+    print_xid_entry(out, 0, 0x12, received<XidEntry>(bytes).to_host());
 }
 
 static auto uidb_entry(std::uint32_t direction)
 {
-    return [direction](Output &out, Wire &bytes) {
-        zel_l2fib_print_uidb_entry(out, 0, direction, 2, &record<UidbEntry>(bytes));
-    };
+    return [direction](Output &out, Wire &bytes) { show_uidb_entry(out, 0, direction, 2, received<UidbEntry>(bytes)); };
 }
 
 static void bport(Output &out, Wire &bytes)
 {
-    auto &bport = record<Bport>(bytes);
-    zel_l2fib_print_bport_entry(out, 0, &bport.key, &bport.entry);
+    print_bport(out, 0, received<Bport>(bytes).to_host());
 }
 
 static void bridge_hal(Output &out, Wire &bytes)
 {
     const ShowData data{bytes.data(), bytes.size()};
-    const auto nps = data.array_at<const BridgeHalNpEntry>(sizeof(BridgeHalContext), 1);
-    print_bridge_hal_context(out, 0, record<BridgeHalContext>(bytes), nps);
+    print_bridge_hal_context(out, 0, *data.at<BridgeHalContext>(0),
+                             data.array_at<const BridgeHalNpEntry>(sizeof(BridgeHalContext), 1));
 }
 
 static void bridge_domain(Output &out, Wire &bytes)
 {
-    auto &domain = record<BridgeDomainRecord>(bytes);
-    domain.to_host();
+    const BridgeDomainRecord &domain = received<BridgeDomainRecord>(bytes).to_host();
     print_bridge_domain_flags(out, 0, domain);
     print_bridge_domain_values(out, 0, domain);
 }
 
 static void bridge_member(Output &out, Wire &bytes)
 {
-    print_bridge_member(out, 0, 0, {&record<BridgeMemberRecord>(bytes), 1}, 7);
+    print_bridge_member(out, 0, 0, {&received<BridgeMemberRecord>(bytes), 1}, 7);
 }
 
-static void mac(Output &out, Wire &bytes)
+static void mac(Output &, Wire &bytes)
 {
-    zel_l2fib_mac_print_handler(out, 0, {bytes.data(), bytes.size()});
+    zel_l2fib_trident_print_internal_detail(0, L2FIB_OBJTYPE_BRIDGE_MAC, 1, L2FIB_INGRESS, 0, bytes.data(),
+                                            bytes.size());
 }
 
 enum UidbBits : bool { fields_only, by_bit };
@@ -132,7 +123,7 @@ using Uidb = UidbEntry;
 
 static const std::vector<RecordCase> record_cases = {
     {"AC context", sizeof(AcShowData), {66, 67, 68, 69}, {{6, 0}, {7, 0}, {8, 0}, {9, 4}}, rp_detail(2)},
-    {"PW context", sizeof(PwContext), {216, 217, 218, 219}, {{4, 0}, {5, 0}, {6, 0}, {7, 2}}, rp_detail(3)},
+    {"PW context", sizeof(PwShowData), {216, 217, 218, 219}, {{4, 0}, {5, 0}, {6, 0}, {7, 2}}, rp_detail(3)},
     {"bridge context",
      sizeof(BridgeShowData),
      {154, 155, 156, 157},
@@ -143,13 +134,13 @@ static const std::vector<RecordCase> record_cases = {
      {32, 33, 34, 35, 76, 77, 78, 79, 80, 81, 82, 83},
      {{120, 0}, {121, 0}, {122, 0}, {123, 0}, {124, 0}, {125, 0}, {126, 0}, {127, 0}},
      rp_detail(13)},
-    {"bridge MAC context", sizeof(BridgeMacContext), {8, 9, 10, 11}, {}, rp_detail(14)},
+    {"bridge MAC context", sizeof(BridgeMacShowData), {8, 9, 10, 11}, {}, rp_detail(14)},
     {"AC context, private",
      sizeof(AcShowData) + 2 * np_entry_size + sizeof(BridgePortContext),
      {66, 67, 68, 69},
      {{0, 1}, {1, 2}, {6, 0}, {7, 0}, {8, 0}, {9, 2}},
      rp_private(2)},
-    {"PW context, private", sizeof(PwContext), {216, 217, 218, 219}, {}, rp_private(3)},
+    {"PW context, private", sizeof(PwShowData), {216, 217, 218, 219}, {}, rp_private(3)},
     {"next hop context, private",
      sizeof(NextHopContext) + 2 * sizeof(IgpPath),
      {25880, 25900, 25908, 25916, 25936, 25944},
@@ -185,7 +176,7 @@ static const std::vector<RecordCase> record_cases = {
      bridge_domain},
     {"bridge member", sizeof(BridgeMemberRecord), {4, 5, 6, 7}, {}, bridge_member},
     {"bridge member, EVPN OLE", sizeof(BridgeMemberRecord), {}, {{4, 0x28}}, bridge_member},
-    {"MAC", sizeof(BridgeMacShowData), {116, 117, 118, 119}, {}, mac},
+    {"MAC", sizeof(BridgeMacShowData) + sizeof(MacEntry), {116, 117, 118, 119}, {}, mac},
 };
 
 static std::string print(const RecordCase &c, Wire bytes)
@@ -249,7 +240,7 @@ TEST(Records, FieldsByTheirBytes)
         }
         text += std::string("== ") + c.name + "\n" + print(c, with_fixed(c, bytes)) + "\n";
     }
-    EXPECT_EQ(text, file_text("tests/screens/record-fields.txt"));
+    expect_golden("record-fields.txt", text);
 }
 
 TEST(Records, FlagsByTheirBits)
@@ -273,7 +264,7 @@ TEST(Records, FlagsByTheirBits)
         }
         text << c.name << ", none: " << none << '\n' << c.name << ", all: " << flag_items(print(c, all)) << '\n';
     }
-    EXPECT_EQ(text.str(), file_text("tests/screens/record-flags.txt"));
+    expect_golden("record-flags.txt", text.str());
 }
 
 } // namespace l2fib

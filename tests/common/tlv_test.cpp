@@ -162,11 +162,6 @@ TEST(Inconsistency, TheHardwaresReportFollowsTheRps)
     EXPECT_EQ(report(number(1) + Wire{6}),
               (Shown{"\n  1 \n  ERROR: Output has been truncated!\n", L2FIB_SHOW_ERR_DATA}));
     EXPECT_EQ(report(rp + Wire{6}), (Shown{"\n  1 \n    ERROR: Output has been truncated!\n", L2FIB_SHOW_ERR_DATA}));
-
-    EXPECT_EQ(
-        shown([] { return zel_l2fib_print_internal_inconsistent(2, 0, 1, 4, nullptr, 9); }),
-        (Shown{"zel_l2fib_print_internal_inconsistent: NULL show data objtype 2 action 99\n", L2FIB_SHOW_ERR_ARGS}));
-    EXPECT_EQ(shown([] { return zel_l2fib_print_internal_inconsistent(2, 0, 1, 4, nullptr, 0); }), Shown{"\n"});
 }
 
 } // namespace l2fib

@@ -5,13 +5,12 @@
 #include "hw/vpls_ac.h"
 #include "hw/xid_entry.h"
 #include "rp/names.h"
-#include "tests/support/printed.h"
+#include "tests/support/golden.h"
 #include "tests/support/test_platform.h"
 #include "zel_l2fib/show.h"
 
 #include <gtest/gtest.h>
 #include <regex>
-#include <sstream>
 
 namespace l2fib
 {
@@ -23,73 +22,67 @@ class AcHandler : public testing::Test
 protected:
     AcHandler()
     {
-        set(ac.np_count, 1);
-        set_converted(ac.context.service, service_vpls);
-        set_converted(ac.context.state, state_bound);
-        set_converted(ac.context.xid, 0x77);
-        set_converted(ac.context.requested_np, all_nps);
+        set(parts.np_count.count, 1);
+        set_converted(ac.service, service_vpls);
+        set_converted(ac.state, state_bound);
+        set_converted(ac.xid, 0x77);
+        set(ac.requested_np, all_nps);
     }
     ~AcHandler() override { test_platform = {}; }
 
     /// The hardware's view of the AC, at level 1, with this hardware part.
     [[nodiscard]] Shown show(std::uint32_t direction, const ShowDataBuilder &hardware) const
     {
-        ShowDataBuilder builder;
-        builder.add(ac).add_zeros(np_entry_size * static_cast<std::uint8_t>(ac.np_count.from_wire()));
-        std::vector<std::uint8_t> bytes = builder.bytes();
+        std::vector<std::uint8_t> bytes = ShowDataBuilder{}.add(parts).bytes();
+        bytes.resize(parts.hardware_offset());
         bytes.insert(bytes.end(), hardware.bytes().begin(), hardware.bytes().end());
         return shown_hardware(1, L2FIB_OBJTYPE_AC, direction, bytes);
     }
 
-    AcShowData ac{};
+    AcShowData parts{};
+    AcContext &ac = parts.context.to_compose();
 };
 
-static std::string failure(const char *service, const char *status)
+template <class Record>
+static ShowDataBuilder &add_all(ShowDataBuilder &builder, unsigned count, const Record &record = {})
 {
-    return std::string("\n  zel_l2fib_trident_print_internal_detail: print handler failed for service ") + service +
-           " objtype 2 : status " + status;
-}
-
-static ShowDataBuilder egress(std::uint32_t np_count, unsigned records, const VplsNpRecord &record = {})
-{
-    VplsEgressBlock block{};
-    set(block.np_count, np_count);
-    ShowDataBuilder builder;
-    builder.add(block);
-    for (unsigned i = 0; i < records; ++i) {
+    for (unsigned i = 0; i < count; ++i) {
         builder.add(record);
     }
     return builder;
 }
 
+static ShowDataBuilder egress(std::uint32_t np_count, unsigned records, const VplsNpRecord &record = {})
+{
+    VplsEgressBlock block{};
+    set(block.np_count.to_compose().count, np_count);
+    ShowDataBuilder builder;
+    return add_all(builder.add(block), records, record);
+}
+
 static ShowDataBuilder ingress(std::uint32_t np_count, unsigned records, VplsIngressBlock block = {},
                                const VplsIngressNpRecord &record = {})
 {
-    set(block.np_count, np_count);
+    set(block.np_count.to_compose().count, np_count);
     ShowDataBuilder builder;
-    builder.add(block);
-    for (unsigned i = 0; i < records; ++i) {
-        builder.add(record);
-    }
-    return builder.add(VplsIngressTrailer{});
+    return add_all(builder.add(block), records, record).add(VplsIngressTrailer{});
 }
 
 /// The lines that name an NP or reject it.
 static std::string np_lines(const std::string &text)
 {
-    std::istringstream lines(text);
     std::string found;
-    for (std::string line; std::getline(lines, line);) {
-        if (std::regex_match(line, std::regex(" *(NP[0-9]+|Invalid NP ID)"))) {
-            found += line + "\n";
-        }
+    const std::regex np_line("\n( *(NP[0-9]+|Invalid NP ID))(?=\n|$)");
+    for (std::sregex_iterator line(text.begin(), text.end(), np_line); line != std::sregex_iterator(); ++line) {
+        found += (*line)[1].str() + "\n";
     }
     return found;
 }
 
 TEST_F(AcHandler, StatesThatAreInHardware)
 {
-    const std::string shown_text = "\n  \n  Error: Number of NPs (0) returned is invalid";
+    constexpr std::uint32_t remote_ac = 1U << AcContext::remote_ac;
+    constexpr std::uint32_t no_local_members = 1U << AcContext::no_lag_local_members;
     const struct {
         std::uint32_t state;
         std::uint32_t flags;
@@ -104,25 +97,22 @@ TEST_F(AcHandler, StatesThatAreInHardware)
         {state_unbound, 0, 0, 2, false}, // no answer that a router should give
         {state_unbound, 0, 5, 1, true},
         {4, 0, 0, 0, false},
-        {state_bound, 1U << AcContext::remote_ac, 0, 0, false},
-        {state_bound, 1U << AcContext::no_lag_local_members, 0, 0, false},
-        {state_bound, 1U << AcContext::is_lag, 0, 0, true},
+        {state_bound, remote_ac, 0, 0, false},
+        {state_bound, no_local_members, 0, 0, false},
+        {state_bound, ~(remote_ac | no_local_members), 0, 0, true},
     };
     for (const auto &c : cases) {
-        set_converted(ac.context.state, c.state);
-        set_converted(ac.context.flags.word, c.flags);
+        set_converted(ac.state, c.state);
+        set_converted(ac.flags, c.flags);
         test_platform.ifhandle_status = c.ifhandle_status;
         test_platform.ifhandle_virtual = c.is_virtual;
-        EXPECT_EQ(show(2, egress(0, 0)), Shown{c.is_shown ? shown_text : "\n  "}) << c.state << ' ' << c.flags;
+        EXPECT_EQ(show(2, egress(0, 0)).text.ends_with("Error: Number of NPs (0) returned is invalid"), c.is_shown)
+            << c.state << ' ' << c.flags;
     }
 }
 
 TEST_F(AcHandler, NpsOfAVplsAc)
 {
-    const std::string too_many = "\n  \n  Error: Number of NPs (9) returned more than supported(8)";
-    EXPECT_EQ(show(1, ingress(9, 0)), Shown{too_many});
-    EXPECT_EQ(show(2, egress(9, 0)), Shown{too_many});
-
     const struct {
         std::uint32_t requested;
         std::uint32_t np_count;
@@ -136,72 +126,42 @@ TEST_F(AcHandler, NpsOfAVplsAc)
         {10, 1, "  NP0\n"},
     };
     for (const auto &c : cases) {
-        set_converted(ac.context.requested_np, c.requested);
+        set(ac.requested_np, c.requested);
         // One record more than is declared: it belongs to no NP.
         EXPECT_EQ(np_lines(show(1, ingress(c.np_count, c.np_count + 1)).text), c.lines);
         EXPECT_EQ(np_lines(show(2, egress(c.np_count, c.np_count + 1)).text), c.lines);
     }
 }
 
-TEST_F(AcHandler, StormControlKnowsEightNps)
-{
-    set_converted(ac.context.requested_np, 8);
-    VplsIngressBlock block{};
-    set_flags(block.port.features.features, {FeatureFlags::storm_control_multicast});
-    EXPECT_EQ(np_lines(show(1, ingress(1, 1, block)).text), "  NP8\n    Invalid NP ID\n");
-}
-
-TEST_F(AcHandler, StormControlConfiguration)
+TEST_F(AcHandler, StormControl)
 {
     VplsIngressBlock block{};
-    set_flags(block.port.features.features, {FeatureFlags::storm_control_multicast});
-    set(block.port.multicast_rate, 500);
-    set_converted(block.port.storm_control_unit, 0xff);
-    StormControlState &state = block.port.storm_control[0];
+    BridgePortContext &port = block.port.to_compose();
+    set_flags(port.features.features, {FeatureFlags::storm_control_multicast});
+    set(port.multicast_rate, 500);
+    set(port.storm_control_unit, 0xff);
+    StormControlState &state = port.storm_control[0].to_compose();
     set_converted(state.traffic[0].status, 5);
     set_converted(state.traffic[1].status, 3);
-    set_converted(state.traffic[1].profile.word, 0x01234567);
+    set_converted(state.traffic[1].profile, 0x01234567);
     set_converted(state.traffic[1].token_bucket_id, 0xabc);
     set_converted(state.traffic[2].status, 9);
     VplsIngressNpRecord record{};
-    set(record.storm_control.rate[1], -500);
-    set(record.storm_control.profile_id[1], 0xffff);
+    set(record.storm_control.to_compose().rate[1], -500);
+    set(record.storm_control.to_compose().profile_id[1], 0xffff);
 
-    const std::string text = show(1, ingress(1, 1, block, record)).text;
-    const std::string expected = R"(
-    Storm Control Configuration: Broadcast: Disabled, Multicast: 500 kbps, Unknown Unicast: Disabled
-     Traffic Type  |   Status    |kbps    |Profile Index|Token Bucket ID|Profile ID|NP
-    --------------------------------------------------------------------------------
-    Broadcast      |Config Failed|  ------|-------------|---------------|----------|0 
-    Multicast      |Config       |-500    |74565        |0xabc          |65535     |0 
-    Unknown Unicast|Invalid      |  ------|-------------|---------------|----------|0 )";
-    EXPECT_EQ(text.substr(text.find("\n    Storm")), expected);
-}
-
-TEST_F(AcHandler, VplsBlocksThatEndEarly)
-{
-    ShowDataBuilder three_bytes;
-    three_bytes.add_zeros(3);
-    const struct {
-        std::uint32_t direction;
-        ShowDataBuilder hardware;
-        const char *sizes;
-    } cases[] = {
-        {1, three_bytes, "3, expecting at least 4"},
-        {2, three_bytes, "3, expecting at least 4"},
-        {2, egress(2, 1), "436, expecting at least 868"},
-        {1, ingress(1, 0), "2600, expecting at least 3052"},
-    };
-    for (const auto &c : cases) {
-        EXPECT_EQ(show(c.direction, c.hardware),
-                  (Shown{std::string("\n  \n  data_size is ") + c.sizes + failure("VPLS", "0x46258800"),
-                         L2FIB_SHOW_ERR_DATA}));
-    }
-    EXPECT_EQ(shown([&] {
-                  Output out;
-                  return print_vpls_ac(out, 1, 1, ac.context, ShowData{});
-              }),
-              (Shown{"\n  NULL data pointer", L2FIB_SHOW_ERR_DATA}));
+    Scenes scenes;
+    scenes.add("multicast, without a profile on the other kinds of traffic", show(1, ingress(1, 1, block, record)));
+    set(port.storm_control_unit, 0xbf);
+    scenes.add("packets per second", show(1, ingress(1, 1, block, record)));
+    set_converted(state.traffic[0].status, 0);
+    scenes.add("no state of broadcast", show(1, ingress(1, 1, block, record)));
+    set(ac.requested_np, 7);
+    set_converted(port.storm_control[7].to_compose().traffic[0].status, 4);
+    scenes.add("the last NP that has a state", show(1, ingress(1, 1, block)));
+    set(ac.requested_np, 8);
+    scenes.add("an NP that has no state", show(1, ingress(1, 1, block)));
+    expect_golden("storm-control.txt", scenes.text());
 }
 
 TEST_F(AcHandler, BridgePortsArePresentByDifferentBits)
@@ -222,40 +182,14 @@ TEST_F(AcHandler, BridgePortsArePresentByDifferentBits)
 class PlainAc : public AcHandler
 {
 protected:
-    PlainAc() { set_converted(ac.context.service, service_local_switch); }
+    PlainAc() { set_converted(ac.service, service_local_switch); }
 
     static ShowDataBuilder entries(unsigned count)
     {
         ShowDataBuilder builder;
-        builder.add(PlainAcBlock{});
-        for (unsigned i = 0; i < count; ++i) {
-            builder.add(XidEntry{});
-        }
-        return builder;
+        return add_all<XidEntry>(builder.add(PlainAcBlock{}), count);
     }
 };
-
-TEST_F(PlainAc, EgressIndentsEachNpDeeper)
-{
-    set(ac.np_count, 3);
-    EXPECT_EQ(show(2, entries(3)), Shown{R"(
-  
-  NP0
-    Xconnect ID: 0x00000077
-      Type: Unknown
-      Flags: None
-      Split Horizon Group: None
-    NP1
-      Xconnect ID: 0x00000077
-        Type: Unknown
-        Flags: None
-        Split Horizon Group: None
-      NP2
-        Xconnect ID: 0x00000077
-          Type: Unknown
-          Flags: None
-          Split Horizon Group: None)"});
-}
 
 TEST_F(PlainAc, NpsAndTheEntriesThatThereAre)
 {
@@ -271,8 +205,8 @@ TEST_F(PlainAc, NpsAndTheEntriesThatThereAre)
     };
     for (const std::uint32_t direction : {1U, 2U}) {
         for (const auto &c : cases) {
-            set_converted(ac.context.requested_np, c.requested);
-            set(ac.np_count, c.np_count);
+            set(ac.requested_np, c.requested);
+            set(parts.np_count.count, c.np_count);
             const Shown result = show(direction, entries(c.entries));
             EXPECT_EQ(occurrences(result.text, "Xconnect ID"), c.printed);
             EXPECT_EQ(result.status, c.complete ? 0 : L2FIB_SHOW_ERR_DATA);
@@ -280,43 +214,23 @@ TEST_F(PlainAc, NpsAndTheEntriesThatThereAre)
     }
 }
 
-TEST_F(PlainAc, FailuresThatTheRouterHasNoTextFor)
+TEST_F(PlainAc, Screens)
 {
+    Scenes scenes;
+    set(parts.np_count.count, 3);
+    scenes.add("ingress", show(1, entries(3)));
+    scenes.add("egress, each NP indented deeper", show(2, entries(3)));
+    scenes.add("neither ingress nor egress", show(3, entries(3)));
     test_platform.knows_statuses = false;
-    const std::string failed = "print handler failed for ";
-    const std::string text = show(3, entries(1)).text;
-    EXPECT_TRUE(text.ends_with(failed + "service Local Switch objtype 2 : (null)")) << text;
-    EXPECT_TRUE(shown_hardware(1, L2FIB_OBJTYPE_MPLS, 1, {}).text.ends_with(failed + "objtype 3 : (null)"));
-
-    UidbEntry entry{};
-    set(entry.retrieval_status, 9);
-    EXPECT_EQ(shown([&] {
-                  Output out;
-                  return zel_l2fib_print_uidb_entry(out, 0, L2FIB_INGRESS, 0, &entry);
-              }),
-              (Shown{"\nERROR: Failed to retrieve UIDB: (null)", 9}));
-    EXPECT_EQ(shown([&] {
-                  Output out;
-                  report_xid_failure(out, 0, "handler", 5, 9);
-                  return 0U;
-              }),
-              Shown{"\nhandler: Failed to print HW entry xid: 0x5 - (null)"});
-}
-
-TEST_F(PlainAc, Failures)
-{
-    EXPECT_EQ(show(3, entries(1)), (Shown{"\n  " + failure("Local Switch", "0x46258800"), L2FIB_SHOW_ERR_DATA}));
-
-    std::vector<std::uint8_t> bytes(10);
-    bytes[6] = service_vpls;
-    EXPECT_EQ(shown_hardware(1, L2FIB_OBJTYPE_AC, 1, bytes),
-              (Shown{"\n  " + failure("VPLS", "0x46258800"), L2FIB_SHOW_ERR_DATA}));
-    bytes.pop_back();
-    EXPECT_EQ(shown_hardware(1, L2FIB_OBJTYPE_AC, 1, bytes),
-              (Shown{"\n  " + failure("Invalid", "0x46258800"), L2FIB_SHOW_ERR_DATA}));
-    EXPECT_EQ(shown([] { return zel_l2fib_trident_print_internal_detail(1, L2FIB_OBJTYPE_AC, 1, 1, 1, nullptr, 9); }),
-              (Shown{"\n  \n  zel_l2fib_ac_print_handler: Null arguments rcvd" + failure("Invalid", "0x46258e00"),
-                     L2FIB_SHOW_ERR_ARGS}));
+    scenes.add("a status that the router has no text for", show(3, entries(3)));
+    set_converted(ac.service, service_vpls);
+    scenes.add("VPLS, neither ingress nor egress", show(3, egress(1, 1)));
+    scenes.add("VPLS, more NPs than a card has", show(1, ingress(9, 0)));
+    set(ac.requested_np, 1);
+    VplsNpRecord unread{};
+    set(unread.uidb.to_compose().retrieval_status, 9);
+    scenes.add("VPLS, an uIDB entry that was not read", show(2, egress(1, 1, unread)));
+    expect_golden("ac.txt", scenes.text());
 }
 
 } // namespace l2fib

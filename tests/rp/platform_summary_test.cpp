@@ -3,7 +3,7 @@
 #include "examples/show_data_builder.h"
 #include "rp/event_statistics.h"
 #include "rp/state_summary.h"
-#include "tests/support/printed.h"
+#include "tests/support/golden.h"
 #include "tests/support/test_platform.h"
 #include "zel_l2fib/show.h"
 
@@ -29,44 +29,23 @@ protected:
     ~PlatformSummary() override { test_platform = {}; }
 };
 
-TEST_F(PlatformSummary, WithoutShowData)
+TEST_F(PlatformSummary, Screens)
 {
+    Scenes scenes;
     for (const Summary summary : {state_summary, event_statistics}) {
-        EXPECT_EQ(shown([&] { return summary(0, 0, nullptr, 0); }), Shown{""});
+        scenes.add("nothing", shown([&] { return summary(0, 0, nullptr, 0); }));
+        scenes.add("no show data", shown([&] { return summary(0, 0, nullptr, 600); }));
     }
-    EXPECT_EQ(shown([] { return state_summary(0, 0, nullptr, 600); }),
-              (Shown{"zel_l2fib_platform_summary_hw_print_internal: NULL show data \n", L2FIB_SHOW_ERR_ARGS}));
-    EXPECT_EQ(shown([] { return event_statistics(0, 0, nullptr, 600); }),
-              (Shown{"zel_l2fib_platform_msg_counter_hw_print_internal: NULL show data \n", L2FIB_SHOW_ERR_ARGS}));
-}
-
-TEST_F(PlatformSummary, ShowDataThatEndsEarly)
-{
-    const std::string summary = "zel_l2fib_platform_summary_hw_print_internal: Showdata size wrong ";
-    const std::string counters = "zel_l2fib_platform_msg_counter_hw_print_internal: Showdata size wrong ";
-    EXPECT_EQ(show(state_summary, Wire(540)), (Shown{summary + "540 \n", L2FIB_SHOW_ERR_ARGS}));
-    EXPECT_EQ(show(state_summary, Wire(541)).status, 0U);
-    EXPECT_EQ(show(event_statistics, Wire(1511)), (Shown{counters + "1511 \n", L2FIB_SHOW_ERR_ARGS}));
-
-    const Shown events_only = show(event_statistics, Wire(2000));
-    EXPECT_EQ(events_only.status, L2FIB_SHOW_ERR_ARGS);
-    EXPECT_TRUE(events_only.text.ends_with("0\n\n" + counters + "488 \n")) << events_only;
-}
-
-TEST_F(PlatformSummary, NumbersAreSigned)
-{
     StateSummary summary{};
     set(summary.kinds[8].created, 0xffffffff);
     set(summary.kinds[8].bound, 12345);
     set(summary.kinds[8].unbound, 0x80000000);
-    EXPECT_NE(show(state_summary, ShowDataBuilder{}.add(summary).add_zeros(1).bytes())
-                  .text.find("\n MAC              -1       12345         -2147483648\n"),
-              std::string::npos);
+    scenes.add("negative MACs", show(state_summary, ShowDataBuilder{}.add(summary).add_zeros(1).bytes()));
     EventCounts counts{};
     set(counts.kinds[17].modified, 0xfffffffe);
-    EXPECT_NE(show(event_statistics, ShowDataBuilder{}.add(counts).add(EventTimes{}).bytes())
-                  .text.find("\n L2TP SESSION     0          -2           0            0           0\n"),
-              std::string::npos);
+    scenes.add("negative L2TP sessions",
+               show(event_statistics, ShowDataBuilder{}.add(counts).add(EventTimes{}).bytes()));
+    expect_golden("platform-summaries.txt", scenes.text());
 }
 
 static const struct {
@@ -85,15 +64,6 @@ TEST_F(PlatformSummary, UnsupportedCardsComeBehindTheTables)
         const Shown result = show(s.summary, s.sample);
         EXPECT_TRUE(result.text.ends_with(std::string(s.end) + "\nUnsupported card type NONE: 0")) << result;
         EXPECT_EQ(result.status, 0U);
-    }
-}
-
-TEST_F(PlatformSummary, ShowDataStaysAsReceived)
-{
-    for (const auto &s : samples) {
-        const GuardedBytes data(s.sample);
-        printed([&] { s.summary(0, 0, data.data(), data.size()); });
-        EXPECT_TRUE(std::equal(s.sample.begin(), s.sample.end(), data.data()));
     }
 }
 
