@@ -23,6 +23,15 @@ constexpr bool is_stored_number = false;
 template <class Integer>
 constexpr bool is_stored_number<AsStored<Integer>> = true;
 
+/// Fields by their names, a byte of one as in "uidb.flags+3", and what they hold. The later counts.
+using Values = std::vector<std::pair<std::string, std::uint64_t>>;
+
+inline Values operator+(Values one, const Values &other)
+{
+    one.insert(one.end(), other.begin(), other.end());
+    return one;
+}
+
 /// Records, one after the other.
 class BufferLayout
 {
@@ -35,7 +44,14 @@ public:
     }
 
     [[nodiscard]] const std::vector<BufferField> &fields() const { return fields_; }
-    [[nodiscard]] std::size_t size() const { return size_; }
+
+    [[nodiscard]] BufferField field(const std::string &name) const;
+
+    /// Show data whose fields hold these values, and 0 elsewhere.
+    [[nodiscard]] std::vector<std::uint8_t> zeros_with(const Values &values) const;
+
+    /// The same with numbers elsewhere that read differently from their other end.
+    [[nodiscard]] std::vector<std::uint8_t> numbers_with(const Values &values) const;
 
 private:
     template <class Record>
@@ -82,6 +98,8 @@ private:
         return static_cast<std::size_t>(reinterpret_cast<const char *>(&(record.*member)) -
                                         reinterpret_cast<const char *>(&record));
     }
+
+    void set(std::vector<std::uint8_t> &bytes, const Values &values) const;
 
     std::vector<BufferField> fields_;
     std::size_t size_ = 0;
