@@ -53,50 +53,6 @@ TEST_F(FrontDoor, UnsupportedCardsShowNothingElse)
               Shown{"Unsupported card type: NONE"});
 }
 
-/// A router whose answers change: only the first so many name a supported card.
-static void support_card_for(int answers)
-{
-    test_platform.when_asked_for_card = [answers]() mutable { test_platform.card_type = answers-- > 0 ? 0x1e1000 : 0; };
-}
-
-TEST_F(FrontDoor, EachCheckAsksForTheCardOnce)
-{
-    const std::string unsupported = "\nUnsupported card type NONE: 0";
-    const std::string front_doors_report = "Unsupported card type: NONE";
-    Wire ac(400);
-    ac[13] = 4; // deleted: the hardware shows a line, and nothing on it
-    const auto text_with = [&](int answers, auto call) {
-        support_card_for(answers);
-        Wire bytes = ac;
-        return printed([&] { call(bytes); });
-    };
-    const auto ends_with = [](const std::string &text, const std::string &end) { return text.ends_with(end); };
-
-    const auto by_view = [](std::uint32_t view) {
-        return [view](Wire &b) { zel_l2fib_print_internal(L2FIB_OBJTYPE_AC, 0, 1, view, b.data(), b.size()); };
-    };
-    EXPECT_EQ(text_with(0, by_view(1)), unsupported);
-    EXPECT_EQ(text_with(1, by_view(1)), unsupported); // the view's own check
-    EXPECT_TRUE(ends_with(text_with(2, by_view(1)), "SHG: None" + unsupported + "\n"));
-    EXPECT_TRUE(ends_with(text_with(3, by_view(1)), "SHG: None\n  \n"));
-    EXPECT_EQ(text_with(1, by_view(2)), unsupported);
-    EXPECT_TRUE(ends_with(text_with(2, by_view(2)), "is pwhe              : 0\n" + unsupported));
-    EXPECT_TRUE(ends_with(text_with(3, by_view(2)), "is pwhe              : 0\n"));
-    ac = {5, 3, 0, 9};
-    EXPECT_EQ(text_with(0, by_view(4)), unsupported);
-    EXPECT_EQ(text_with(1, by_view(4)), front_doors_report);
-    EXPECT_EQ(text_with(2, by_view(4)), "\n" + unsupported);
-    EXPECT_EQ(text_with(3, by_view(4)), "\n    ERROR: Invalid TLV size received!\n");
-
-    ac.resize(4536);
-    const auto state_summary = [](Wire &b) { zel_l2fib_platform_summary_hw_print_internal(0, 0, b.data(), b.size()); };
-    const auto statistics = [](Wire &b) { zel_l2fib_platform_msg_counter_hw_print_internal(0, 0, b.data(), b.size()); };
-    EXPECT_TRUE(ends_with(text_with(0, state_summary), unsupported));
-    EXPECT_FALSE(ends_with(text_with(1, state_summary), unsupported));
-    EXPECT_TRUE(ends_with(text_with(0, statistics), unsupported));
-    EXPECT_FALSE(ends_with(text_with(1, statistics), unsupported));
-}
-
 using View = std::uint32_t (*)(std::uint32_t objtype, std::uint8_t *data, std::uint64_t size);
 
 template <std::uint32_t view_flags>
@@ -109,6 +65,50 @@ template <decltype(zel_l2fib_trident_print_internal_detail) *view>
 static std::uint32_t of_hardware(std::uint32_t objtype, std::uint8_t *data, std::uint64_t size)
 {
     return view(1, objtype, 1, L2FIB_INGRESS, 0, data, size);
+}
+
+template <decltype(zel_l2fib_platform_summary_hw_print_internal) *summary>
+static std::uint32_t of_summary(std::uint32_t /*objtype*/, std::uint8_t *data, std::uint64_t size)
+{
+    return summary(0, 0, data, size);
+}
+
+/// A router whose answers change: only the first so many name a supported card.
+static void support_card_for(int answers)
+{
+    test_platform.when_asked_for_card = [answers]() mutable { test_platform.card_type = answers-- > 0 ? 0x1e1000 : 0; };
+}
+
+TEST_F(FrontDoor, EachCheckAsksForTheCardOnce)
+{
+    Wire ac(400);
+    ac[13] = 4; // deleted: the hardware shows a line, and nothing on it
+    const Wire report = {4, 3, 0, 5, 3, 0, 9};
+    const struct {
+        const char *title;
+        Wire show_data;
+        View show;
+    } cases[] = {
+        {"detail", ac, of_front_door<L2FIB_VIEW_DETAIL>},
+        {"private", ac, of_front_door<L2FIB_VIEW_PRIVATE>},
+        {"inconsistent", report, of_front_door<L2FIB_VIEW_INCONSISTENT>},
+        {"state summary", Wire(541), of_summary<zel_l2fib_platform_summary_hw_print_internal>},
+        {"event statistics", Wire(4536), of_summary<zel_l2fib_platform_msg_counter_hw_print_internal>},
+    };
+    std::string text;
+    for (const auto &c : cases) {
+        const auto show = [&](int answers) {
+            support_card_for(answers);
+            Wire bytes = c.show_data;
+            return shown([&] { return c.show(L2FIB_OBJTYPE_AC, bytes.data(), bytes.size()); });
+        };
+        Ladder ladder;
+        for (int answers = 0; answers <= 5; ++answers) {
+            ladder.add(static_cast<std::size_t>(answers), rung(show(answers), show(9).text, 0));
+        }
+        text += std::string("== ") + c.title + ", a supported card for the first answers\n" + ladder.text();
+    }
+    expect_golden("card-checks.txt", text);
 }
 
 /// What a view says of each object type, on one line.
@@ -202,6 +202,46 @@ TEST_F(FrontDoor, SlotsAreTheRouters)
     print_internal(L2FIB_OBJTYPE_NHOP, L2FIB_VIEW_DETAIL, bytes);
     EXPECT_EQ(zel_l2fib_hal_print[1].object_print, zel_l2fib_trident_print_internal);
     EXPECT_EQ(zel_l2fib_hal_print[0].object_print, nullptr);
+}
+
+/// The table is refilled before the card is asked for: a platform layer that enters a printer of its own then has it
+/// called.
+TEST_F(FrontDoor, TheHardwaresSummaryFollowsTheRps)
+{
+    static Wire received;
+    static std::uint32_t received_arg;
+    const auto print = [](std::uint32_t hw_arg, std::uint8_t *data, std::uint64_t size) -> std::uint32_t {
+        received.assign(data, data + size);
+        received_arg = hw_arg;
+        return 77;
+    };
+    const struct {
+        decltype(&zel_l2fib_platform_summary_hw_print_internal) summary;
+        std::size_t size;
+        decltype(&zel_l2fib_hal_print_row::summary_print) slot;
+    } cases[] = {
+        {zel_l2fib_platform_summary_hw_print_internal, 540, &zel_l2fib_hal_print_row::summary_print},
+        {zel_l2fib_platform_msg_counter_hw_print_internal, 4536, &zel_l2fib_hal_print_row::statistics_print},
+    };
+    Scenes scenes;
+    for (const auto &c : cases) {
+        Wire bytes(c.size + 3, 0);
+        bytes[c.size] = 1;
+        test_platform.when_asked_for_card = [&] { zel_l2fib_hal_print[1].*c.slot = print; };
+        std::uint32_t status = 0;
+        printed([&] { status = c.summary(0, 5, bytes.data(), bytes.size()); });
+        EXPECT_EQ(status, 77U);
+        EXPECT_EQ(received, (Wire{1, 0, 0}));
+        EXPECT_EQ(received_arg, 5U);
+
+        test_platform.when_asked_for_card = nullptr;
+        printed([&] { status = c.summary(0, 5, bytes.data(), bytes.size()); });
+        EXPECT_EQ(status, 0U);
+        EXPECT_EQ(zel_l2fib_hal_print[1].object_print, zel_l2fib_trident_print_internal);
+        EXPECT_EQ(shown([&] { return c.summary(0, 0, nullptr, 0); }), Shown{""});
+        scenes.add("no show data", shown([&] { return c.summary(0, 0, nullptr, 600); }));
+    }
+    expect_golden("null-summaries.txt", scenes.text());
 }
 
 TEST_F(FrontDoor, Sizes)

@@ -39,7 +39,7 @@ public:
     template <class Record>
     void add(const char *name)
     {
-        add_field<Record>(name, size_);
+        add_field<Record>(name, size_, false);
         size_ += sizeof(Record);
     }
 
@@ -55,39 +55,41 @@ public:
 
 private:
     template <class Record>
-    struct Inside { // of a record that tells nothing of its fields until it is converted
+    struct Inside { // of a record that hides its fields
         using Type = Record;
+        static constexpr bool is_stored = is_stored_number<Record>;
     };
     template <class Record>
-    struct Inside<Received<Record>> {
-        using Type = Record;
+    struct Inside<Received<Record>> : Inside<Record> {
     };
     template <class Record>
     struct Inside<StoredRecord<Record>> {
         using Type = Record;
+        static constexpr bool is_stored = true;
     };
 
     template <class Field>
-    void add_field(const std::string &name, std::size_t offset)
+    void add_field(const std::string &name, std::size_t offset, bool is_in_stored)
     {
         using Type = typename Inside<Field>::Type;
+        const bool is_stored = is_in_stored || Inside<Field>::is_stored;
         if constexpr (std::is_array_v<Type>) {
             using Element = std::remove_extent_t<Type>;
             for (std::size_t i = 0; i < std::extent_v<Type>; ++i) {
-                add_field<Element>(name + "[" + std::to_string(i) + "]", offset + i * sizeof(Element));
+                add_field<Element>(name + "[" + std::to_string(i) + "]", offset + i * sizeof(Element), is_stored);
             }
         } else if constexpr (RecordWithFields<Type>) {
-            add_fields(name + ".", offset, typename Type::Fields{});
+            add_fields(name + ".", offset, is_stored, typename Type::Fields{});
         } else {
-            fields_.push_back({name, offset, sizeof(Type), is_stored_number<Type>});
+            fields_.push_back({name, offset, sizeof(Type), is_stored});
         }
     }
 
     template <auto... members>
-    void add_fields(const std::string &prefix, std::size_t offset, Fields<members...> /*list*/)
+    void add_fields(const std::string &prefix, std::size_t offset, bool is_stored, Fields<members...> /*list*/)
     {
         (add_field<record_fields::Type<members>>(prefix + std::string(field_name<members>()),
-                                                 offset + offset_of<members>()),
+                                                 offset + offset_of<members>(), is_stored),
          ...);
     }
 
