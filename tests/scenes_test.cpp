@@ -7,6 +7,7 @@
 #include "hw/mac.h"
 #include "hw/plain_ac.h"
 #include "hw/pw.h"
+#include "hw/resource.h"
 #include "hw/vpls_ac.h"
 #include "rp/bridge_context.h"
 #include "rp/event_statistics.h"
@@ -309,5 +310,50 @@ TEST(Scenes, Summaries)
     }));
 }
 // clang-format on
+
+static const Show private_resources = [](std::uint8_t *show_data, std::uint64_t size) {
+    return zel_l2fib_trident_print_internal_private(1, L2FIB_OBJTYPE_RSRC_MON, 1, 1, 0, show_data, size);
+};
+
+TEST(Scenes, ResourceTotalsWrapAndNumbersAreSigned)
+{
+    const BufferLayout layout =
+        layout_of<ResourceShowData, BigU32, ResourceUse[resource_types][max_nps], MacScan[max_nps], BigU32>(
+            "head", "np_count", "use", "scan", "macs");
+    Values values = {{"head.length", sizeof(ResourceData) + 4}, {"np_count", 1}};
+    for (unsigned type = 0; type < resource_types; ++type) {
+        const std::string modify = "use[" + std::to_string(type) + "][0].operations[1].";
+        values = values + Values{{modify + "t_count", 0x80000001}, {modify + "time", std::uint64_t{1} << 63U}};
+    }
+    const Object resources = {layout, values, private_resources};
+    expect_golden("resource-totals.txt", play({{"as many as 32 and 64 bits hold", resources, {}}}));
+}
+
+TEST(Scenes, ResourceLengthsThatDoNotFit)
+{
+    const struct {
+        std::uint64_t length;
+        std::uint64_t np_count;
+        std::size_t size; // behind the length
+    } cases[] = {
+        {13256, 2, 13256}, {13255, 1, 13256}, {13256, 1, 13255}, {3, 1, 13256},     {13256, 9, 4},     {13256, 0, 4},
+        {3, 9, 13256},     {20000, 1, 13256}, {20000, 1, 20000}, {13256, 1, 20000}, {13284, 8, 13284},
+    };
+    Scenes scenes;
+    for (const auto &c : cases) {
+        const auto layout = layout_of<ResourceShowData, BigU32>("head", "np_count");
+        std::vector<std::uint8_t> bytes = layout.zeros_with({{"head.length", c.length}, {"np_count", c.np_count}});
+        bytes.resize(sizeof(ResourceShowData) + c.size);
+        const GuardedBytes data(bytes);
+        Shown result = shown([&] { return private_resources(data.data(), data.size()); });
+        if (const unsigned nps = occurrences(result.text, "Mac Scan Summary"); nps != 0) {
+            result.text = std::to_string(nps) + " NPs";
+        }
+        scenes.add("length " + std::to_string(c.length) + ", " + std::to_string(c.size) + " bytes, NP count " +
+                       std::to_string(c.np_count),
+                   result);
+    }
+    expect_golden("resource-lengths.txt", scenes.text());
+}
 
 } // namespace l2fib

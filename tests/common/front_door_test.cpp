@@ -41,18 +41,6 @@ TEST_F(FrontDoor, CardFamily)
     }
 }
 
-TEST_F(FrontDoor, UnsupportedCardsShowNothingElse)
-{
-    test_platform.card_type = 0x1e1004;
-    const Shown unsupported{"\nUnsupported card type NONE: 0"};
-    Wire bytes(200);
-    EXPECT_EQ(print_internal(L2FIB_OBJTYPE_AC, L2FIB_VIEW_DETAIL, bytes), unsupported);
-    EXPECT_EQ(shown([&] { return zel_l2fib_print_internal_private(2, 0, 1, 2, bytes.data(), 200); }), unsupported);
-    EXPECT_EQ(shown([&] { return zel_l2fib_trident_print_internal(1, 2, 0, 1, 1, bytes.data(), 200); }), unsupported);
-    EXPECT_EQ(shown([&] { return zel_l2fib_print_internal_inconsistent(2, 0, 1, 4, bytes.data(), 200); }),
-              Shown{"Unsupported card type: NONE"});
-}
-
 using View = std::uint32_t (*)(std::uint32_t objtype, std::uint8_t *data, std::uint64_t size);
 
 template <std::uint32_t view_flags>
