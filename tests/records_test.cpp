@@ -231,11 +231,21 @@ TEST(Records, FieldsByTheirBytes)
     expect_golden("record-fields.txt", text);
 }
 
+/// Every bit set: which numbers are signed, and how wide they are.
+TEST(Records, FieldsOfAllBits)
+{
+    std::string text;
+    for (const RecordCase &c : record_cases) {
+        text += std::string("== ") + c.name + "\n" + print(c, c.layout.filled_with(c.values, 0xff)) + "\n";
+    }
+    expect_golden("record-all-bits.txt", text);
+}
+
 TEST(Records, FlagsByTheirBits)
 {
     std::ostringstream text;
     for (const RecordCase &c : record_cases) {
-        const Wire base = c.layout.zeros_with(c.values);
+        const Wire base = c.layout.filled_with(c.values);
         const std::string none = flag_items(print(c, base));
         Wire all = base;
         for (const std::string &flags : c.flags) {

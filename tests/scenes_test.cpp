@@ -54,7 +54,7 @@ static std::string play(std::initializer_list<Scene> list)
     Scenes scenes;
     for (const Scene &scene : list) {
         scene.prepare_router();
-        const GuardedBytes data(scene.object.layout.zeros_with(scene.object.values + scene.values));
+        const GuardedBytes data(scene.object.layout.filled_with(scene.object.values + scene.values));
         scenes.add(scene.title, shown([&] { return scene.object.show(data.data(), data.size()); }));
         test_platform = {};
     }
@@ -177,7 +177,7 @@ TEST(Scenes, NpsOfAVplsAc)
             Ladder ladder;
             for (std::uint64_t requested = 0; requested <= 11; ++requested) {
                 const Values values = {{"block.np_count.count", np_count}, {"ac.context.requested_np", requested}};
-                const GuardedBytes data(side.layout.zeros_with(vpls + values));
+                const GuardedBytes data(side.layout.filled_with(vpls + values));
                 const Shown result = shown([&] { return detail(L2FIB_OBJTYPE_AC, side.direction)(data.data(), data.size()); });
                 std::string nps;
                 const std::regex np("NP[0-9]+(\n *Invalid NP ID)?(?=\n)");
@@ -274,6 +274,7 @@ TEST(Scenes, Bridge)
         {"fewer members than the NP has", bridge, members + Values{{"counts.members", 3}}},
         {"members that are counted in 16 bits", bridge,
          {{"hal_np.shg_members[0]", 0xffff}, {"hal_np.shg_members[1]", 2}, {"counts.members", 9}}},
+        {"members of one group", bridge, {{"hal_np.shg_members[1]", 1}, {"counts.members", 9}}},
     }));
     const char *of_np = "block_1_np.pw_over_bvi_members[2]";
     const char *of_bridge = "counts.pw_over_bvi_members";
@@ -287,7 +288,7 @@ TEST(Scenes, Bridge)
 
 TEST(Scenes, BridgePort)
 {
-    const GuardedBytes notified(port.layout.zeros_with({{"port.last_notification", 2'000'000'000}}));
+    const GuardedBytes notified(port.layout.filled_with({{"port.last_notification", 2'000'000'000}}));
     EXPECT_EQ(printed([&] { port.show(notified.data(), notified.size()); }).find("N/A"), std::string::npos);
     expect_golden("bridge-port-role.txt", play({
         {"a P2MP role without a name", port, {{"port.flags", 0x200}, {"port.p2mp_role", 5}}},
@@ -342,7 +343,7 @@ TEST(Scenes, ResourceLengthsThatDoNotFit)
     Scenes scenes;
     for (const auto &c : cases) {
         const auto layout = layout_of<ResourceShowData, BigU32>("head", "np_count");
-        std::vector<std::uint8_t> bytes = layout.zeros_with({{"head.length", c.length}, {"np_count", c.np_count}});
+        std::vector<std::uint8_t> bytes = layout.filled_with({{"head.length", c.length}, {"np_count", c.np_count}});
         bytes.resize(sizeof(ResourceShowData) + c.size);
         const GuardedBytes data(bytes);
         Shown result = shown([&] { return private_resources(data.data(), data.size()); });

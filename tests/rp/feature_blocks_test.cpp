@@ -17,7 +17,7 @@ TEST(FeatureBlocks, ArePresentByTheFlagsOfTheBridge)
     for (const char *word : {"bridge.flags", "bridge.features.features", "bridge.features.more"}) {
         Ladder ladder;
         for (unsigned bit = 0; bit < 32; ++bit) {
-            std::vector<std::uint8_t> context = layout.zeros_with({{word, 0x80000000U >> bit}});
+            std::vector<std::uint8_t> context = layout.filled_with({{word, 0x80000000U >> bit}});
             zel_l2fib_rp_obj_endian_xform_ctx(L2FIB_OBJTYPE_BRIDGE, context.data());
             std::string blocks;
             for (const std::uint32_t block : {0x0U, 0x1U, 0x2U, 0x3U, 0x101U, 0x202U}) { // eight bits count

@@ -20,9 +20,9 @@ BufferField BufferLayout::field(const std::string &name) const
     return {name, found->offset + std::stoul(name.substr(whole.size())), 1, false};
 }
 
-std::vector<std::uint8_t> BufferLayout::zeros_with(const Values &values) const
+std::vector<std::uint8_t> BufferLayout::filled_with(const Values &values, std::uint8_t elsewhere) const
 {
-    std::vector<std::uint8_t> bytes(size_);
+    std::vector<std::uint8_t> bytes(size_, elsewhere);
     set(bytes, values);
     return bytes;
 }

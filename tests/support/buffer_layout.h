@@ -47,8 +47,8 @@ public:
 
     [[nodiscard]] BufferField field(const std::string &name) const;
 
-    /// Show data whose fields hold these values, and 0 elsewhere.
-    [[nodiscard]] std::vector<std::uint8_t> zeros_with(const Values &values) const;
+    /// Show data whose fields hold these values, and 0 elsewhere, or another byte everywhere.
+    [[nodiscard]] std::vector<std::uint8_t> filled_with(const Values &values, std::uint8_t elsewhere = 0) const;
 
     /// The same with numbers elsewhere that read differently from their other end.
     [[nodiscard]] std::vector<std::uint8_t> numbers_with(const Values &values) const;
