@@ -126,6 +126,15 @@ static RecordCase xid_case(const char *name, std::uint32_t type, const std::vect
     return {name, layout_of<XidEntry>("xid"), flags, Values{{"xid.type", type}} + values, xid_entry};
 }
 
+static Values one_of_each(const BufferLayout &layout)
+{
+    Values values;
+    for (const BufferField &field : layout.fields()) {
+        values.emplace_back(field.name, 1);
+    }
+    return values;
+}
+
 using Uidb = UidbEntry;
 using NpEntry = Bytes<np_entry_size>;
 
@@ -150,6 +159,7 @@ static const std::vector<RecordCase> record_cases = {
      rp_private(L2FIB_OBJTYPE_NHOP)},
     {"bridge context, private", layout_of<BridgeShowData>("bridge"), {}, {}, rp_private(L2FIB_OBJTYPE_BRIDGE)},
     {"MAC scan", layout_of<MacScan>("scan"), {}, {}, mac_scan},
+    {"MAC scan of one each", layout_of<MacScan>("scan"), {}, one_of_each(layout_of<MacScan>("scan")), mac_scan},
     xid_case("XID entry, AC", XidEntry::type_ac, {"xid.flags"}),
     xid_case("XID entry, bundle", XidEntry::type_bundle),
     xid_case("XID entry, bundle by flow", XidEntry::type_bundle, {}, {{"xid.flags+1", 0x22}}),

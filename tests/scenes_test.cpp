@@ -173,7 +173,7 @@ TEST(Scenes, NpsOfAVplsAc)
     };
     std::string text;
     for (const auto &side : sides) {
-        for (const std::uint64_t np_count : {1, 3, 8}) {
+        for (const std::uint64_t np_count : {1, 2, 3, 8}) {
             Ladder ladder;
             for (std::uint64_t requested = 0; requested <= 11; ++requested) {
                 const Values values = {{"block.np_count.count", np_count}, {"ac.context.requested_np", requested}};
@@ -202,7 +202,7 @@ TEST(Scenes, StormControlOfAnAc)
         {"block.port.storm_control[0].traffic[2].status", 9}, {"np.storm_control.rate[1]", 0xfffffe0c},
         {"np.storm_control.profile_id[1]", 0xffff}, {"np.np.uidb.retrieval_status", 1}};
     const Values no_broadcast = {{"block.port.storm_control[0].traffic[0].status", 0}};
-    const Values others = {{"block.port.features.features", 0xc00}, {"block.port.unknown_unicast_rate", 7}};
+    const Values others = {{"block.port.features.features", 0xc00}, {"block.port.unknown_unicast_rate", 0xfffffff9}};
     const Values last_np = {{"ac.context.requested_np", 7}, {"block.port.storm_control[7].traffic[0].status", 4}};
     expect_golden("storm-control.txt", play({
         {"multicast", ingress_ac, multicast},
@@ -243,6 +243,26 @@ TEST(Scenes, PathsOfAPw)
         {"no ifhandles", ingress_pw, with_flags(0x40000000, 0, 0x80)},
         {"both paths", ingress_pw, with_flags(0x40000000, 0xc0, 0x7f)},
         {"not on the egress side", egress_pw, with_flags(0x40000000, 0xc0, 0x7f)},
+    }));
+}
+
+/// So far to the right that every line is wrapped. A view that is called directly takes a context in host order.
+TEST(Scenes, DeepLevels)
+{
+    const auto far_right = [](std::uint32_t objtype, std::uint32_t direction) {
+        return [=](std::uint8_t *show_data, std::uint64_t size) {
+            return zel_l2fib_trident_print_internal_detail(34, objtype, 1, direction, 0, show_data, size);
+        };
+    };
+    const Values vpls_in_host_order = {{"pw.rp.context.service", 0x02000000}, {"pw.rp.context.state", 0x02000000}};
+    const Object pw = {pw_vpls, vpls_in_host_order, far_right(L2FIB_OBJTYPE_MPLS, L2FIB_INGRESS)};
+    const Object bridge_far_right = {bridge_with_members, one_np, far_right(L2FIB_OBJTYPE_BRIDGE, L2FIB_EGRESS)};
+    expect_golden("deep-levels.txt", play({
+        {"both paths of a PW", pw,
+         {{"pw.np_count", 1}, {"ingress.paths.state.flags", 0x40000000}, {"ingress.paths.primary.flags", 0xc0},
+          {"ingress.paths.backup.flags", 0xc0}}},
+        {"a bridge and a member", bridge_far_right,
+         {{"hal_np.shg_members[0]", 1}, {"counts.members", 1}, {"member[0][0].flags", 0xff800000}}},
     }));
 }
 
@@ -303,7 +323,8 @@ TEST(Scenes, Summaries)
         {"HAL, no NP, and bytes that are none's", hal_summary, {{"mark", 0x01020304}, {"totals.load_balance_type", 0x0506}}},
         {"HAL, two NPs, and too few bytes of them", hal_summary, {{"np_count", 2}}},
         {"HAL, more NPs than 32 bits can count the bytes of", hal_summary, {{"np_count", 0xffffffff}}},
-        {"HAL, a negative mark", hal_summary, {{"np_count", 1}, {"mark", 0x80000000}, {"status", 0xabcd}}},
+        {"HAL, a negative mark", hal_summary,
+         {{"np_count", 1}, {"mark", 0x80000000}, {"status", 0xabcd}, {"totals.negative_mac_counter_hits", 0xffffffff}}},
         {"negative counts", state_summary, negative},
         {"another card", state_summary, {}, has_other_card},
         {"negative events", event_statistics, {{"counts.kinds[17].modified", 0xfffffffe}}},

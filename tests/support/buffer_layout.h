@@ -19,9 +19,9 @@ struct BufferField {
 };
 
 template <class Field>
-constexpr bool is_stored_number = false;
+inline constexpr bool is_stored_number = false;
 template <class Integer>
-constexpr bool is_stored_number<AsStored<Integer>> = true;
+inline constexpr bool is_stored_number<AsStored<Integer>> = true;
 
 /// Fields by their names, a byte of one as in "uidb.flags+3", and what they hold. The later counts.
 using Values = std::vector<std::pair<std::string, std::uint64_t>>;
