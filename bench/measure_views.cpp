@@ -219,7 +219,7 @@ static void measure_reading(benchmark::State &state, const CaptureFile &file)
         }
         state.SetIterationTime(cpu_seconds() - begin);
     }
-    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * captures_read));
+    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(captures_read));
 }
 
 /// Prints a line for each subject when it has been measured in every way: the library, the baseline and the floor, to

@@ -3,6 +3,7 @@
 #include "client/hex_digits.h"
 
 #include <cstring>
+#include <optional>
 
 namespace l2fib
 {

@@ -74,7 +74,7 @@ private:
     std::map<std::tuple<std::string, std::string, std::uint32_t>, std::size_t> counts_;
 };
 
-/// Where a capture stands.
+/// Where a capture is from.
 struct Place {
     const std::string &file;
     std::size_t line;

@@ -14,7 +14,8 @@ static void check(std::string_view text, HexForm form, std::size_t longest)
     require(read.error.empty() || read.bytes.empty(), "either bytes or why there are none");
     if (read.error.empty()) {
         const std::string digits = hex_of_bytes(read.bytes);
-        require(read_hex_dump(digits, HexForm::plain, longest).bytes == read.bytes, "what is written is read as the same");
+        require(read_hex_dump(digits, HexForm::plain, longest).bytes == read.bytes,
+                "what is written is read as the same");
     }
 }
 

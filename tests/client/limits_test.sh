@@ -27,9 +27,9 @@ captures() {
 
 # The manual's bound.
 bound=160
-captures 64 4 '","show_data":"00"}
+captures 48 4 '","show_data":"00"}
 ' | within $bound '' -- --count
-captures 64 8 '","show_data":"00"}
+captures 24 8 '","show_data":"00"}
 ' | within $bound '' -- --count
 captures 1 8 '' | within $bound 'l2fib-show: -:1: broken JSON at byte 8388644' --
 perl -e 'print "{", "\t" x (8 << 20), "x"' | within $bound 'l2fib-show: -:1: broken JSON at byte 8388610' --

@@ -7,35 +7,37 @@
 namespace l2fib
 {
 
+static constexpr std::uint64_t numbers[] = {0,
+                                            1,
+                                            9,
+                                            10,
+                                            99,
+                                            100,
+                                            999,
+                                            1000,
+                                            1007,
+                                            999999,
+                                            1000000,
+                                            12345,
+                                            0x7f,
+                                            0x80,
+                                            0xabcd,
+                                            0xffff,
+                                            999999999,
+                                            0x7fffffff,
+                                            0x80000000,
+                                            0xffffffff,
+                                            0x100000000,
+                                            9999999999999999999U,
+                                            0x7fffffffffffffff,
+                                            0x8000000000000000,
+                                            0xffffffffffffffff};
+
 /// Every number, in the format: as the output prints it, and as printf does.
 template <class Number>
 static void expect_as_printf(const char *printf_format, const Format<Number> &format)
 {
-    for (const std::uint64_t number : {std::uint64_t{0},
-                                       std::uint64_t{1},
-                                       std::uint64_t{9},
-                                       std::uint64_t{10},
-                                       std::uint64_t{99},
-                                       std::uint64_t{100},
-                                       std::uint64_t{999},
-                                       std::uint64_t{1000},
-                                       std::uint64_t{1007},
-                                       std::uint64_t{999999},
-                                       std::uint64_t{1000000},
-                                       std::uint64_t{12345},
-                                       std::uint64_t{0x7f},
-                                       std::uint64_t{0x80},
-                                       std::uint64_t{0xabcd},
-                                       std::uint64_t{0xffff},
-                                       std::uint64_t{999999999},
-                                       std::uint64_t{0x7fffffff},
-                                       std::uint64_t{0x80000000},
-                                       std::uint64_t{0xffffffff},
-                                       std::uint64_t{0x100000000},
-                                       std::uint64_t{9999999999999999999U},
-                                       std::uint64_t{0x7fffffffffffffff},
-                                       std::uint64_t{0x8000000000000000},
-                                       std::uint64_t{0xffffffffffffffff}}) {
+    for (const std::uint64_t number : numbers) {
         const auto value = static_cast<Number>(number);
         char expected[64];
 #pragma GCC diagnostic push

@@ -56,16 +56,6 @@ std::ostream &operator<<(std::ostream &out, const Shown &shown)
     return shown.status == 0 ? out : out << "\n[status 0x" << std::hex << shown.status << std::dec << ']';
 }
 
-Shown shown_hardware(std::uint32_t level, std::uint32_t objtype, std::uint32_t direction,
-                     const std::vector<std::uint8_t> &bytes)
-{
-    const GuardedBytes data(bytes);
-    return shown([&] {
-        return zel_l2fib_trident_print_internal_detail(level, objtype, 1, direction, L2FIB_VIEW_DETAIL, data.data(),
-                                                       data.size());
-    });
-}
-
 Shown shown_detail(std::uint32_t objtype, std::uint32_t direction, const std::vector<std::uint8_t> &bytes)
 {
     const GuardedBytes data(bytes);

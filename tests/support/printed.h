@@ -48,11 +48,7 @@ Shown shown(const Call &call)
     return result;
 }
 
-/// The hardware's detail view of an object, with a read behind its bytes ending the test.
-Shown shown_hardware(std::uint32_t level, std::uint32_t objtype, std::uint32_t direction,
-                     const std::vector<std::uint8_t> &bytes);
-
-/// The same for the whole detail view.
+/// The detail view of an object, with a read behind its bytes ending the test.
 Shown shown_detail(std::uint32_t objtype, std::uint32_t direction, const std::vector<std::uint8_t> &bytes);
 
 /// A file below the sources.
