@@ -126,10 +126,11 @@ static void add_input(CLI::App &app, Request &request)
 
 static void add_rendering(CLI::App &app, RenderingOptions &options)
 {
-    app.add_flag("--json", options.rendering.json, "Print JSON, an object on each line");
+    app.add_flag("--json", options.rendering.json, "Print JSON, an object on each line, in place of text");
     app.add_flag("--bytes", options.rendering.bytes,
-                 "Print the bytes of the show data with what they are; also as JSON");
-    app.add_option("--color", options.color, "Colour bytes: auto (on a terminal, the default), always or never")
+                 "Print what each byte of the show data is, in place of the screen; as JSON with --json");
+    app.add_option("--color", options.color,
+                   "Colour the table of --bytes: auto (on a terminal, the default), always or never")
         ->check(CLI::IsMember({"auto", "always", "never"}))
         ->type_name("WHEN");
 }
@@ -197,10 +198,12 @@ static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options, Rende
         ->check(CLI::IsMember({"ok", "failed"}))
         ->type_name("STATUS");
     command.add_flag("--count", options.count, "Print how many objects, views and statuses there are, not their text");
-    command.add_flag("--heading", options.heading, "Print a line in front of each object that says which it is");
+    command.add_flag("--heading", options.heading,
+                     "Print a line in front of each object that says which it is; with --json, give its file and line");
     command.add_option("FILE", options.files, "Captures, one a line; - for standard input (the default)")
         ->type_name("");
     add_rendering(command, rendering);
+    command.get_option("--count")->excludes(command.get_option("--bytes"));
     add_example(command, "l2fib-show replay --object ac --status failed router.jsonl");
     return &command;
 }
@@ -231,7 +234,10 @@ static ExitStatus show(Request &request)
     if (!output_arrived()) {
         return unusable;
     }
-    return status == 0 ? shown : report_status(status);
+    if (status == 0) {
+        return shown;
+    }
+    return request.rendering.rendering.json ? view_failed : report_status(status); // JSON has said how
 }
 
 static ExitStatus capture(Request &request)

@@ -1,9 +1,8 @@
 #include "client/rendering.h"
 
+#include "client/byte_table.h"
 #include "client/hex_digits.h"
 #include "recording/views.h"
-
-#include <algorithm>
 
 namespace l2fib
 {
@@ -57,55 +56,34 @@ std::uint32_t Renderer::show_json(Capture &capture, const Origin *origin)
     return status;
 }
 
-static bool is_zero(std::span<const std::uint8_t> bytes)
-{
-    return std::all_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte == 0; });
-}
-
 std::uint32_t Renderer::show_bytes(Capture &capture, const Origin *origin)
 {
     received_ = capture.show_data;
     bytes_recorder_.begin(capture.show_data);
     const std::uint32_t status = record(capture, bytes_recorder_);
-    const std::vector<recording::ByteRun> runs = bytes_recorder_.runs();
     if (!rendering_.json) {
-        print_runs(runs);
+        print_byte_table(bytes_recorder_, received_, rendering_.colored);
         return status;
     }
     open_line(capture, origin);
-    write_runs(runs);
+    write_runs();
     json_.member("status", std::uint64_t{status});
     json_.close_line();
     return status;
 }
 
-/// How much of the show data no line shows.
-struct Unshown {
-    explicit Unshown(std::span<const recording::ByteRun> runs, std::span<const std::uint8_t> bytes)
-    {
-        for (const recording::ByteRun &run : runs) {
-            if (run.values.empty()) {
-                const auto part = bytes.subspan(run.offset, run.size);
-                count += run.size;
-                nonzero += part.size() - static_cast<std::size_t>(std::count(part.begin(), part.end(), 0));
-            }
-        }
-    }
-
-    std::size_t count = 0;
-    std::size_t nonzero = 0;
-};
-
-void Renderer::write_runs(std::span<const recording::ByteRun> runs)
+void Renderer::write_runs()
 {
-    for (const recording::ByteRun &run : runs) {
+    NotShown not_shown;
+    bytes_recorder_.for_each_run([&](const recording::ByteRun &run) {
         const auto bytes = std::span(received_).subspan(run.offset, run.size);
+        not_shown.add(run, bytes);
         json_.open_element("bytes");
         json_.member("offset", std::uint64_t{run.offset});
         json_.member("width", std::uint64_t{run.size});
         json_.member("hex", std::string_view(hex_of_bytes({bytes.begin(), bytes.end()})));
-        if (!run.field.empty()) {
-            json_.member("field", std::string_view(run.field));
+        if (!run.record.empty()) {
+            json_.member("field", std::string_view(std::string(run.record) + '.' + run.field));
         }
         for (const recording::ShownValue &value : run.values) {
             json_.open_element("values");
@@ -114,49 +92,10 @@ void Renderer::write_runs(std::span<const recording::ByteRun> runs)
             json_.close_object();
         }
         json_.close_object();
-    }
-    const Unshown unshown(runs, received_);
+    });
     json_.member("size", std::uint64_t{received_.size()});
-    json_.member("not_shown", std::uint64_t{unshown.count});
-    json_.member("not_shown_nonzero", std::uint64_t{unshown.nonzero});
-}
-
-/// Bytes in pairs of digits; of many, the first ones, and how many there are.
-static std::string digits_of(std::span<const std::uint8_t> bytes)
-{
-    constexpr std::size_t most = 8;
-    std::string text;
-    for (const std::uint8_t byte : bytes.first(std::min(bytes.size(), most))) {
-        text += text.empty() ? "" : " ";
-        text += hex_of_bytes({byte});
-    }
-    return bytes.size() > most ? text + " .. " + std::to_string(bytes.size()) + " bytes" : text;
-}
-
-/// A line for each run: where it is, its bytes, what it is and what the screen shows of it.
-void Renderer::print_runs(std::span<const recording::ByteRun> runs)
-{
-    const char *const faint = rendering_.colored ? "\x1b[2m" : "";
-    const char *const alarm = rendering_.colored ? "\x1b[33m" : "";
-    const char *const plain = rendering_.colored ? "\x1b[0m" : "";
-    for (const recording::ByteRun &run : runs) {
-        const auto bytes = std::span(received_).subspan(run.offset, run.size);
-        const bool is_shown = !run.values.empty();
-        const bool is_odd = !is_shown && !is_zero(bytes);
-        std::printf("%s0x%05zx  %-38s %c %s",
-                    is_shown ? ""
-                    : is_odd ? alarm
-                             : faint,
-                    run.offset, digits_of(bytes).c_str(), is_odd ? '!' : ' ',
-                    run.field.empty() ? "?" : run.field.c_str());
-        for (const recording::ShownValue &value : run.values) {
-            std::printf("\n%*s%s: %s", 51, "", value.path.c_str(), value.text.c_str());
-        }
-        std::printf("%s\n", is_shown ? "" : plain);
-    }
-    const Unshown unshown(runs, received_);
-    std::printf("No line shows %zu of %zu bytes; %zu of them are not zero.\n", unshown.count, received_.size(),
-                unshown.nonzero);
+    json_.member("not_shown", std::uint64_t{not_shown.count});
+    json_.member("not_shown_nonzero", std::uint64_t{not_shown.nonzero});
 }
 
 } // namespace l2fib

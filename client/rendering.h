@@ -40,8 +40,7 @@ private:
     std::uint32_t record(Capture &capture, recording::Recorder &recorder);
     std::uint32_t show_json(Capture &capture, const Origin *origin);
     std::uint32_t show_bytes(Capture &capture, const Origin *origin);
-    void write_runs(std::span<const recording::ByteRun> runs);
-    void print_runs(std::span<const recording::ByteRun> runs);
+    void write_runs();
 
     Rendering rendering_;
     recording::JsonWriter json_{stdout};

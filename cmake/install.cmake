@@ -27,14 +27,15 @@ file(RELATIVE_PATH prefix_from_pc ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE
 configure_file(cmake/zel_l2fib.pc.in zel_l2fib.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zel_l2fib.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
 
-# Installs the files that match a pattern, of which there may be none.
-function(l2fib_install_matching pattern destination component)
-    file(GLOB files CONFIGURE_DEPENDS ${pattern})
+# Installs the files that match some patterns, of which there may be none.
+function(l2fib_install_matching patterns destination component)
+    file(GLOB files CONFIGURE_DEPENDS ${patterns})
     install(FILES ${files} DESTINATION ${destination} COMPONENT ${component})
 endfunction()
 l2fib_install_matching(docs/man/*.1 ${CMAKE_INSTALL_MANDIR}/man1 tool)
 l2fib_install_matching(docs/man/*.3 ${CMAKE_INSTALL_MANDIR}/man3 dev)
 l2fib_install_matching(completions/* ${CMAKE_INSTALL_DATADIR}/bash-completion/completions tool)
 l2fib_install_matching(README.md ${CMAKE_INSTALL_DOCDIR} tool)
-l2fib_install_matching(docs/*.md ${CMAKE_INSTALL_DOCDIR} dev)
+l2fib_install_matching("docs/capture-format.md;docs/json-format.md;docs/querying.md" ${CMAKE_INSTALL_DOCDIR} tool)
+l2fib_install_matching("docs/design.md;docs/fuzzing.md;docs/integration.md" ${CMAKE_INSTALL_DOCDIR} dev)
 l2fib_install_matching(examples/*.jsonl ${CMAKE_INSTALL_DOCDIR}/examples tool)

@@ -1,6 +1,8 @@
 #include "recording/bytes_recorder.h"
 
 #include <algorithm>
+#include <numeric>
+#include <queue>
 
 namespace recording
 {
@@ -14,7 +16,7 @@ void BytesRecorder::show(const Source &source, std::string_view key, std::string
     std::string path = this->path();
     path += path.empty() ? "" : ".";
     path += key;
-    shown_.push_back({*offset, source.width, {std::move(path), std::move(text)}});
+    shown_.push_back({*offset, source.width, std::move(path), std::move(text)});
 }
 
 void BytesRecorder::value(const Value &value)
@@ -43,81 +45,110 @@ void BytesRecorder::flag(std::string_view name)
     flag_names_ += trimmed(name);
 }
 
+void BytesRecorder::unnamed_flags(std::uint32_t bits)
+{
+    for (; bits != 0; bits &= bits - 1) {
+        flag('#' + std::to_string(__builtin_ctz(bits)));
+    }
+}
+
 void BytesRecorder::close_flags()
 {
+    if (flag_words_.front().field == last_flags_) {
+        return; // some of the same flags, once more
+    }
+    last_flags_ = flag_words_.front().field;
     for (const Source &word : flag_words_) {
         show(word, name_of(flag_words_.front()), flag_names_);
     }
 }
 
-/// A field of the show data that has no fields of its own.
-struct Leaf {
-    std::size_t offset;
-    std::size_t size;
-    std::string name;
+/// Walks through the records of the show data, from its first byte to its last.
+class RecordWalk
+{
+public:
+    explicit RecordWalk(std::span<const ShowDataMap::Run> runs) : runs_(runs), by_offset_(runs.size())
+    {
+        std::iota(by_offset_.begin(), by_offset_.end(), std::size_t{0});
+        std::stable_sort(by_offset_.begin(), by_offset_.end(),
+                         [runs](std::size_t one, std::size_t other) { return runs[one].offset < runs[other].offset; });
+    }
+
+    /// The run that begins at an offset, which is higher each time, and ends no later than `end`, with its field.
+    ByteRun run_at(std::size_t offset, std::size_t end);
+
+private:
+    [[nodiscard]] static std::size_t end_of(const ShowDataMap::Run &run) { return run.offset + run.size * run.count; }
+
+    std::span<const ShowDataMap::Run> runs_;
+    std::vector<std::size_t> by_offset_;
+    std::size_t next_ = 0;
+    std::priority_queue<std::size_t> reached_; ///< those that may hold the offset: the one reached last says most
 };
 
-static void add_leaves(std::vector<Leaf> &leaves, const RecordInfo &type, std::size_t offset, const std::string &name)
+/// Puts the path of the field at an offset of its record into `run`. Returns where the field ends in the record.
+static std::size_t name_field(ByteRun &run, const RecordInfo &type, std::size_t offset)
 {
-    for (const FieldInfo &field : type.fields) {
-        for (std::size_t i = 0; i < field.count; ++i) {
-            const std::size_t at = offset + field.offset + i * field.size;
-            std::string path = name + '.' + std::string(field.name);
-            if (field.is_array) {
-                path += '[' + std::to_string(i) + ']';
-            }
-            if (field.record != nullptr) {
-                add_leaves(leaves, *field.record, at, path);
-            } else {
-                leaves.push_back({at, field.size, std::move(path)});
-            }
-        }
+    const auto after = std::upper_bound(type.fields.begin(), type.fields.end(), offset,
+                                        [](std::size_t at, const FieldInfo &field) { return at < field.offset; });
+    const FieldInfo &field = *std::prev(after);
+    const std::size_t index = (offset - field.offset) / field.size;
+    const std::size_t begin = field.offset + index * field.size;
+    run.field += run.field.empty() ? "" : ".";
+    run.field += field.name;
+    if (field.is_array) {
+        run.field += '[' + std::to_string(index) + ']';
     }
+    return begin + (field.record == nullptr ? field.size : name_field(run, *field.record, offset - begin));
 }
 
-std::vector<ByteRun> BytesRecorder::runs()
+ByteRun RecordWalk::run_at(std::size_t offset, std::size_t end)
 {
-    std::vector<Leaf> leaves;
-    for (const ShowDataMap::Run &run : map().runs()) {
-        for (std::size_t i = 0; i < run.count; ++i) {
-            add_leaves(leaves, *run.type, run.offset + i * run.size, std::string(run.type->name));
-        }
+    for (; next_ < by_offset_.size() && runs_[by_offset_[next_]].offset <= offset; ++next_) {
+        reached_.push(by_offset_[next_]);
     }
-    // Of records that were reached twice, the later one says more: a part of the earlier one.
-    std::reverse(leaves.begin(), leaves.end());
-    const auto by_offset = [](const auto &one, const auto &other) { return one.offset < other.offset; };
-    std::stable_sort(leaves.begin(), leaves.end(), by_offset);
-    std::stable_sort(shown_.begin(), shown_.end(), by_offset);
+    while (!reached_.empty() && end_of(runs_[reached_.top()]) <= offset) {
+        reached_.pop();
+    }
+    if (next_ < by_offset_.size()) {
+        end = std::min(end, runs_[by_offset_[next_]].offset);
+    }
+    ByteRun run;
+    run.offset = offset;
+    if (!reached_.empty()) {
+        const ShowDataMap::Run &records = runs_[reached_.top()];
+        run.record = records.type->name.substr(0, records.type->name.find('<'));
+        run.record_size = records.size;
+        run.record_offset = offset - (offset - records.offset) % records.size;
+        end = std::min(end, run.record_offset + name_field(run, *records.type, offset - run.record_offset));
+    }
+    run.size = end - offset;
+    return run;
+}
 
-    std::vector<ByteRun> runs;
-    auto leaf = leaves.begin();
-    auto shown = shown_.begin();
+void BytesRecorder::for_each_run(const std::function<void(const ByteRun &run)> &take)
+{
+    const auto is_before = [](const ShownValue &one, const ShownValue &other) { return one.offset < other.offset; };
+    std::stable_sort(shown_.begin(), shown_.end(), is_before);
+    RecordWalk walk(map().runs());
+    const std::span<const ShownValue> shown = shown_;
+    std::size_t done = 0; // of those values
     for (std::size_t at = 0; at < size_;) {
-        while (leaf != leaves.end() && leaf->offset + leaf->size <= at) {
-            ++leaf;
+        const std::size_t begin = done;
+        std::size_t end = at;
+        // Values of the same bytes, or of some of them.
+        while (done < shown.size() && (shown[done].offset == at || shown[done].offset < end)) {
+            end = std::max(end, shown[done].offset + shown[done].size);
+            ++done;
         }
-        while (shown != shown_.end() && shown->offset < at) {
-            ++shown; // bytes within others that are shown
+        ByteRun run = walk.run_at(at, done < shown.size() ? shown[done].offset : size_);
+        if (done > begin) {
+            run.size = end - at;
+            run.values = shown.subspan(begin, done - begin);
         }
-        ByteRun run{at, 0, {}, {}};
-        std::size_t end = size_;
-        if (leaf != leaves.end()) {
-            const bool is_in_leaf = leaf->offset <= at;
-            end = std::min(end, is_in_leaf ? leaf->offset + leaf->size : leaf->offset);
-            run.field = is_in_leaf ? leaf->name : "";
-        }
-        if (shown != shown_.end()) {
-            end = shown->offset > at ? std::min(end, shown->offset) : at + shown->size;
-        }
-        for (; shown != shown_.end() && shown->offset == at; ++shown) {
-            end = std::max(end, at + shown->size);
-            run.values.push_back(shown->value);
-        }
-        run.size = end - at;
-        at = end;
-        runs.push_back(std::move(run));
+        at += run.size;
+        take(run);
     }
-    return runs;
 }
 
 } // namespace recording

@@ -61,7 +61,6 @@ expect 0 numbers '' -- capture ac --node 010 --card 0x011 --monotonic 07 --wall 
     --virtual-interface 09 --virtual-interface 0x0a zero
 expect 0 empty '' -- replay --xid 010 --node 0x0a numbers
 
-
 # Captures: what capture writes, replay shows; what is wrong with a line is told, and the rest goes on.
 ac=$source/examples/vpls-ac-ingress.jsonl
 port=$source/examples/bridge-port.jsonl
@@ -114,6 +113,88 @@ expect 0 heading.txt '' -- replay --heading "$ac" "$port"
 expect 2 empty 'l2fib-show: missing: No such file or directory' -- replay missing
 expect 0 empty '' -- replay
 
+# json STATUS STDERR_TEXT FILTER WANTED -- ARGUMENT...: standard output is an object on each line, of which jq makes this.
+json() {
+    status=$1 err=$2 filter=$3 wanted=$4
+    shift 5
+    "$show" "$@" >stdout 2>stderr </dev/null
+    actual=$?
+    jq -c "$filter" stdout >made
+    if [ $actual -ne "$status" ] || [ "$(cat stderr)" != "$err" ] || [ "$(cat made)" != "$wanted" ] ||
+        [ "$(jq -c 'objects | 1' stdout | wc -l)" -ne "$(wc -l <stdout)" ]; then
+        echo "l2fib-show $*: exit status $actual, expected $status; jq '$filter' says:"
+        cat made stderr
+        failures=$((failures + 1))
+    fi
+}
+odd=$(printf 'odd "name\033')
+cp "$ac" "$odd"
+what='[.object, .direction, .view, .status, .rp.xid]'
+json 0 '' "$what" '["ac","ingress","detail",0,3407875]' -- ac --json --color always "$capture"
+json 0 '' "$what" '["summary",null,null,0,null]' -- replay --json "$source/examples/state-summary.jsonl"
+json 0 '' '[.file, .line]' '[null,null]' -- replay --json "$ac"
+json 0 '' '[.file, .line, .object]' '["odd \"name\u001b",1,"ac"]' -- replay --json --heading "$odd"
+json 1 '' '[.status, .failures[0].there, .failures[0].needed]' '[1176864768,105,106]' -- ac --json short
+json 2 "$broken" '[.line, .object, .status]' '[1,"ac",0]
+[6,"bridge-port",0]
+[7,"bridge-port",1176864768]' -- replay --json --heading mixed
+json 2 "$broken" .object '"ac"
+"bridge-port"' -- replay --json --status ok mixed
+json 1 '' .node 9 -- replay --json --status failed "$ac" failing
+json 0 '' .object '"ac"' -- replay --json --xid 0x00340003 --object ac "$ac" "$port"
+json 2 "$broken" '[.all, (.counts[] | .object, .status, .count)]' \
+    '[3,"ac",0,1,"bridge-port",0,1,"bridge-port",1176864768,1]' -- replay --json --count mixed
+json 0 '' '[.size, .not_shown, .not_shown_nonzero, ([.bytes[].width] | add)]' '[172,112,0,172]' -- \
+    replay --json --bytes "$source/examples/local-mac.jsonl"
+json 1 '' '[.status, .bytes[0].hex[:6]]' '[1176864768,"000300"]' -- ac --json --bytes short
+json 0 '' . '' -- replay --json
+
+# The samples with bytes changed: they cannot break the form, nor send a terminal anything but plain text.
+cat "$source"/examples/*.jsonl | perl -ne 'srand(1); for my $i (1 .. 5) {
+    my $line = $_;
+    my ($digits, $end) = (index($line, "show_data\":\"") + 12, length($line) - 4);
+    substr($line, $digits + 2 * int(rand(($end - $digits) / 2)), 2) = sprintf("%02x", rand(256)) for 1 .. 4 ** $i;
+    print $line }' >changed
+"$show" replay --json changed >changed.json 2>stderr
+"$show" replay --json --bytes changed >>changed.json 2>>stderr
+"$show" replay --bytes changed >changed.txt 2>/dev/null
+if [ "$(jq -c 'objects | 1' changed.json | wc -l)" -ne $((2 * $(wc -l <changed))) ] || [ -s stderr ] ||
+    LC_ALL=C grep -n '[^ -~]' changed.txt; then
+    echo "changed samples: not a line of JSON for each, or no plain text"
+    failures=$((failures + 1))
+fi
+
+# The table of bytes, and its colours.
+bytes=$source/tests/screens/local-mac.bytes.txt
+mac=$source/examples/local-mac.jsonl
+[ -z "$L2FIB_ACCEPT_SCREENS" ] || "$show" replay --bytes "$mac" >"$bytes"
+expect 0 "$bytes" '' -- replay --bytes "$mac"
+expect 0 "$bytes" '' -- replay --bytes --color never "$mac"
+expect 2 empty 'l2fib-show: --count excludes --bytes' -- replay --bytes --count "$mac"
+expect 2 empty 'l2fib-show: --color: sometimes not in {auto,always,never}' -- replay --bytes --color sometimes "$mac"
+expect 0 "$screen" '' -- replay --color always "$ac"
+colors() { # WANTED WHERE ENVIRONMENT OPTION...: whether the bytes have colours
+    wanted=$1 where=$2 environment=$3
+    shift 3
+    command="env $environment $show replay --bytes $* $mac"
+    case $where in
+    file) $command >colored ;;
+    terminal) script -qec "$command" /dev/null >colored </dev/null ;;
+    esac
+    grep -q "$(printf '\033')" colored && has=yes || has=no
+    if [ $has != "$wanted" ] || ! sed 's/\x1b\[[0-9]*m//g; s/\r$//' colored | cmp - "$bytes"; then
+        echo "$environment replay --bytes $*, on a $where: colours: $has"
+        failures=$((failures + 1))
+    fi
+}
+colors no file ''
+colors yes file '' --color always
+colors yes terminal -uNO_COLOR
+colors yes terminal NO_COLOR=
+colors no terminal NO_COLOR=1
+colors yes terminal NO_COLOR=1 --color always
+colors no terminal '' --color never
+
 # Text that does not arrive.
 fails_to_write() {
     "$show" "$@" >/dev/full 2>stderr
@@ -125,6 +206,10 @@ fails_to_write() {
 }
 fails_to_write replay "$ac"
 fails_to_write replay --count "$ac"
+fails_to_write replay --json "$ac"
+fails_to_write replay --json --count "$ac"
+fails_to_write replay --bytes "$ac"
+fails_to_write ac --json "$capture"
 fails_to_write ac "$capture"
 fails_to_write capture ac "$capture"
 fails_to_write --help
@@ -135,12 +220,14 @@ if [ "$(cat status)" -ne 2 ] || [ "$(cat stderr)" != 'l2fib-show: standard outpu
     failures=$((failures + 1))
 fi
 for i in 1 2 3 4 5 6 7 8; do cat "$source/examples/resources.jsonl" "$source/examples/resources.jsonl"; done >many
-("$show" replay many 2>stderr; echo $? >status) | head -c 1 >/dev/null
-if [ "$(cat status)" -ne 2 ] || [ "$(cat stderr)" != 'l2fib-show: standard output: Broken pipe' ]; then
-    echo "a closed pipe: exit status $(cat status)"
-    cat stderr
-    failures=$((failures + 1))
-fi
+for form in '' --json --bytes; do
+    ("$show" replay $form many 2>stderr; echo $? >status) | head -c 1 >/dev/null
+    if [ "$(cat status)" -ne 2 ] || [ "$(cat stderr)" != 'l2fib-show: standard output: Broken pipe' ]; then
+        echo "replay $form into a closed pipe: exit status $(cat status)"
+        cat stderr
+        failures=$((failures + 1))
+    fi
+done
 
 # The manual and the completion know every option.
 for command in '' $("$show" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z-]*\) .*/\1/p'); do
