@@ -71,7 +71,7 @@ void print_bridge_domain_values(Output &out, std::uint32_t level, const BridgeDo
 
     List features{out, level};
     if (domain.flags.test(BridgeDomainRecord::pbb_enable)) {
-        features.item("PBB Core BD: %u", domain.pbb_core_bridge_domain);
+        features.item("PBB Core BD: %u", called("pbb_core_bridge_id", domain.pbb_core_bridge_domain));
         features.item("ISID: %u", upper_24_bits(domain.isid));
     }
     features.item("BD learn cntr: 0x%08x", domain.learn_counter);

@@ -30,7 +30,7 @@ static void print_summary(Output &out, std::span<const BigU32> high_water_marks,
         const Element of_np(out, "resource_status");
         out.text("  NP-%d: 0x%04x", static_cast<std::uint32_t>(np), called("status", resource_status[np]));
     }
-    out.text("\n  Platform HAL Shared Mem Flags: 0x%04x\n", totals.flags);
+    out.text("\n  Platform HAL Shared Mem Flags: 0x%04x\n", called("shared_memory_flags", totals.flags));
     out.text("  L2VPN Load Balance Type: 0x%0x\n", totals.load_balance_type);
     out.text("  Total Negative MAC Counter Hit Count: %u\n", totals.negative_mac_counter_hits);
 }

@@ -35,7 +35,7 @@ static_assert(std::size(state_names) == mac_scan_states);
     if (count != 0) {
         const Element of_name(out, elements);
         note(out, "name", name);
-        out.text<Literal, FromField<std::uint32_t>>(format, name, from_field(count.value(), count, key));
+        out.text<Literal, FromField<std::uint32_t>>(format, name, called(key, count));
     }
 }
 

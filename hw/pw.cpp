@@ -66,7 +66,7 @@ static void print_paths(Output &out, std::uint32_t level, const Layer3Paths &pat
 {
     List primary{out, level, "Primary L3 path"};
     note(out, "unresolved", paths.state.flags.test(PathState::unresolved));
-    note(out, "backup_set", paths.state.flags.test(PathState::backup_valid));
+    note(out, "backup_valid", paths.state.flags.test(PathState::backup_valid));
     if (paths.state.flags.test(PathState::unresolved)) {
         primary.item("Unresolved"); // without a primary path there is no backup
         return;

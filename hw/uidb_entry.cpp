@@ -220,7 +220,7 @@ static void print_destination_line(Output &out, std::uint32_t level, const UidbE
     if (is_set(entry, UidbEntry::bd_lookup)) {
         line.item("VPLS XID: 0x%08x", entry.destination_xid);
         line.item("SHG: %s", shg_text(entry.shg));
-        line.item("Bridge Domain: %d", entry.bridge_domain);
+        line.item("Bridge Domain: %d", called("bridge_id", entry.bridge_domain));
     } else if (is_set(entry, UidbEntry::vpws_dest_pw)) {
         line.item("Dest XID: 0x%08x", entry.destination_xid);
     } else if (is_set(entry, UidbEntry::vpws_dest_lag)) {
@@ -244,7 +244,7 @@ static void print_ingress_lines(Output &out, std::uint32_t level, const UidbEntr
     statistics.item("Wire Exp Tag: %d", entry.wire_exp_tag);
 
     List bvi{out, level};
-    bvi.item("BVI Bridge Domain: %d", entry.bvi_bridge_domain);
+    bvi.item("BVI Bridge Domain: %d", called("bvi_bridge_id", entry.bvi_bridge_domain));
     bvi.item("BVI Source XID: 0x%08x", entry.bvi_source_xid);
 
     print_vlan_line(out, level, entry);
@@ -300,13 +300,14 @@ static void print_egress_lines(Output &out, std::uint32_t level, const UidbEntry
     qos.item("QOS format: %d", entry.qos_format);
 
     if (is_set(entry, UidbEntry::ipiw_mode)) {
-        out.line(level, "IP IW MAC: %s", mac_text(entry.mac));
+        out.line(level, "IP IW MAC: %s", from_field(mac_of(entry.mac), entry.mac, "ip_iw_mac"));
     }
     if (is_set(entry, UidbEntry::bng_l2tp_mode)) {
         List tunnel{out, level};
         tunnel.item("LNS Session ID: 0x%04x", entry.lns_session);
         tunnel.item("LNS Tunnel ID: 0x%04x", entry.lns_tunnel);
-        tunnel.item("PPPoE Session ID: 0x%04x MAC: %s", entry.pppoe_session, mac_text(entry.mac));
+        tunnel.item("PPPoE Session ID: 0x%04x MAC: %s", entry.pppoe_session,
+                    from_field(mac_of(entry.mac), entry.mac, "pppoe_mac"));
         tunnel.item("PPP COS: 0x%02x", entry.ppp_class_of_service);
         tunnel.item("TOS: 0x%02x", entry.tos);
     }

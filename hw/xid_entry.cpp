@@ -106,7 +106,7 @@ static void print_pw_lines(Output &out, std::uint32_t level, const XidEntry &ent
 static void print_vpls_line(Output &out, std::uint32_t level, const XidEntry &entry)
 {
     List line{out, level};
-    line.item("Bridge Domain ID: %u", entry.bridge_domain);
+    line.item("Bridge Domain ID: %u", called("bridge_id", entry.bridge_domain));
     line.item_if(entry.learn_count_limit != 0, "Learn Count Limit: %d", entry.learn_count_limit);
     line.item_if(entry.learn_count_pointer != 0, "Learn Count Pointer: 0x%06x", entry.learn_count_pointer);
     line.item_if(entry.learn_key != 0, "Learn Key: %u", entry.learn_key);

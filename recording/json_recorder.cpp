@@ -127,7 +127,7 @@ void JsonRecorder::open_flags(std::span<const Source> words)
 {
     flag_words_.assign(words.begin(), words.end());
     flag_names_.clear();
-    unnamed_ = 0;
+    unnamed_.reset();
 }
 
 void JsonRecorder::flag(std::string_view name)
@@ -162,10 +162,13 @@ void JsonRecorder::close_flags()
         }
         companion(name_of(word), "_raw", hex + '"');
     }
+    if (!unnamed_) {
+        return;
+    }
     companion_ = name_of(flag_words_.front());
     companion_ += "_unnamed";
     json_.open_array(companion_);
-    for (std::uint32_t bits = unnamed_; bits != 0; bits &= bits - 1) {
+    for (std::uint32_t bits = *unnamed_; bits != 0; bits &= bits - 1) {
         json_.element(static_cast<std::uint64_t>(__builtin_ctz(bits)));
     }
     json_.close_array();

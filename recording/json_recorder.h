@@ -53,7 +53,7 @@ private:
 
     std::vector<Source> flag_words_;
     std::vector<std::string> flag_names_;
-    std::uint32_t unnamed_ = 0;
+    std::optional<std::uint32_t> unnamed_; ///< none where the view does not say
     const void *last_flags_ = nullptr;
 };
 

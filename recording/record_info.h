@@ -105,8 +105,8 @@ consteval std::string_view record_name()
     std::string_view name = __PRETTY_FUNCTION__;
     name.remove_prefix(name.find("Record = ") + 9);
     name = name.substr(0, name.find_first_of(";]"));
-    const std::size_t arguments = name.find('<');
-    return name.substr(name.substr(0, arguments).rfind(':') + 1);
+    name = name.substr(0, name.find('<')); // of a template, compilers write the arguments differently
+    return name.substr(name.rfind(':') + 1);
 }
 
 } // namespace record_fields

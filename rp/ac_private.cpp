@@ -47,7 +47,7 @@ static void print_ac(Output &out, const AcContext &ac)
     values.item("Rack ID              : %d", ac.rack_id);
     values.item("sfp                  : %d", ac.sfp);
     values.item("bridge_id            : %d", ac.bridge_id);
-    values.item("shg                  : %d", ac.shg);
+    values.item("shg                  : %d", called("shg_raw", ac.shg));
     values.item("mac limit            : %d", ac.mac_limit);
     values.item("main interface type  : %d", ac.main_interface_type);
     values.flags(ac_flags, ac.flags);
@@ -59,9 +59,9 @@ static void print_bridge_port(Output &out, const BridgePortContext &port)
     out.text("\nBridge Port Context\n-------------------\n");
     TwoColumns values{out, "\t\t "};
     values.line("Bridge id          : %d", port.bridge_id);
-    values.item("shg id             : %d", port.shg_id);
+    values.item("shg id             : %d", called("shg_raw", port.shg_id));
     values.item("mac limit        : %d", port.mac_limit);
-    values.item("num static macs    : %d", port.num_static_macs);
+    values.item("num static macs    : %d", called("static_macs", port.num_static_macs));
     values.item("np flood mask    : %d", port.np_flood_mask);
     values.line("np flood mask old  : %d", port.np_flood_mask_old);
 }

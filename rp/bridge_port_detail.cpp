@@ -81,12 +81,13 @@ static void print_bridge_port(Output &out, std::uint32_t direction, std::uint8_t
 
     const auto &features = port.features.features;
     List forwarding{out, 2};
-    forwarding.item("pi_xid: 0x%08x", port.pi_xid);
+    forwarding.item("pi_xid: 0x%08x", called("xid", port.pi_xid));
     forwarding.item_if(port.flags.test(BridgePortContext::lb_type_valid), "lb_type: %d", port.lb_type);
     forwarding.item_if(features.test(FeatureFlags::mac_sec_enable), "mac_secure_action: %d",
                        features.get(FeatureFlags::mac_secure_action));
-    if (port.flags.test(BridgePortContext::p2mp_pw_enabled)) {
-        note(out, "p2mp_pw_enabled", true);
+    const auto p2mp_pw_enabled = port.flags.test(BridgePortContext::p2mp_pw_enabled);
+    note(out, "p2mp_pw_enabled", p2mp_pw_enabled);
+    if (p2mp_pw_enabled) {
         forwarding.item("P2MP PW enabled");
         forwarding.item("P2MP Role: %s", p2mp_role_name(port.p2mp_role));
     }

@@ -43,8 +43,8 @@ static void print_pw(Output &out, std::uint32_t direction, std::uint8_t *show_da
     forwarding.item("XID: 0x%08x", pw.xid);
     forwarding.item("bridge: %d", pw.bridge_id);
     forwarding.item("MAC limit: %d", pw.mac_limit);
-    forwarding.item("disp_vc_label: %d", pw.disp_vc_label);
-    forwarding.item("vc label: %d", pw.vc_label);
+    forwarding.item("disp_vc_label: %d", called("disposition_label", pw.disp_vc_label));
+    forwarding.item("vc label: %d", called("imposition_label", pw.vc_label));
     forwarding.item("nr_ldi_hash: 0x%x", pw.nr_ldi_hash);
     forwarding.item("r_ldi_hash: 0x%x", pw.r_ldi_hash);
     forwarding.item("lag_hash: 0x%x", pw.lag_hash);

@@ -38,12 +38,12 @@ static void print_pw(Output &out, std::uint8_t *show_data)
 
     // Labels and hashes are long numbers: one tab is enough after them.
     TwoColumns long_values{out, "\t"};
-    long_values.item("vc label            : %d", pw.vc_label);
+    long_values.item("vc label            : %d", called("imposition_label", pw.vc_label));
     long_values.item("nr ldi hash          : %d", pw.nr_ldi_hash);
     long_values.item("r ldi hash          : %d", pw.r_ldi_hash);
     long_values.item("lag hash             : %d", pw.lag_hash);
 
-    values.item("shg                 : %d", pw.shg);
+    values.item("shg                 : %d", called("shg_raw", pw.shg));
     values.flags(pw_flags, pw.flags);
     values.item("reserved             : %d", pw.flags.get(PwContext::reserved));
 }

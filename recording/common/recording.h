@@ -66,7 +66,7 @@ FromField<Made> from_field(Made value, const Field &field, const char *key = nul
     from.source.key = key;
     from.source.is_made = true;
     if constexpr (std::is_same_v<Made, const char *>) {
-        from.source.width = std::strlen(value);
+        from.source.width = std::strlen(value) + 1; // with its terminating zero
     }
     return from;
 }
