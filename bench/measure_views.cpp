@@ -22,14 +22,14 @@ namespace l2fib
 {
 
 /// The functions by which objects are shown.
-struct Library {
+struct Build {
     decltype(&zel_l2fib_print_internal) object;
     decltype(&zel_l2fib_platform_summary_hw_print_internal) summary;
     decltype(&zel_l2fib_platform_msg_counter_hw_print_internal) counters;
     decltype(&zel_l2fib_trident_print_summary) hal_summary;
 };
 
-static const Library the_library = {zel_l2fib_print_internal, zel_l2fib_platform_summary_hw_print_internal,
+static const Build the_library = {zel_l2fib_print_internal, zel_l2fib_platform_summary_hw_print_internal,
                                     zel_l2fib_platform_msg_counter_hw_print_internal, zel_l2fib_trident_print_summary};
 
 template <class Function>
@@ -43,10 +43,10 @@ static void find(void *library, const char *name, Function &function)
     function = reinterpret_cast<Function>(symbol);
 }
 
-static Library load_baseline()
+static Build load_baseline()
 {
     void *library = dlopen(L2FIB_BASELINE, RTLD_NOW | RTLD_LOCAL);
-    Library baseline{};
+    Build baseline{};
     find(library, "zel_l2fib_print_internal", baseline.object);
     find(library, "zel_l2fib_platform_summary_hw_print_internal", baseline.summary);
     find(library, "zel_l2fib_platform_msg_counter_hw_print_internal", baseline.counters);
@@ -57,28 +57,28 @@ static Library load_baseline()
 using Bytes = std::vector<std::uint8_t>;
 
 /// Shows a capture by a copy of its show data, which the view converts in place.
-using Show = void (*)(const Library &library, const Capture &capture, Bytes &scratch);
+using Show = void (*)(const Build &library, const Capture &capture, Bytes &scratch);
 
 /// How an object is shown.
 static Show show_of(const Object &object)
 {
     if (object.has_views()) {
-        return [](const Library &library, const Capture &capture, Bytes &scratch) {
+        return [](const Build &library, const Capture &capture, Bytes &scratch) {
             library.object(capture.object->objtype, capture.node, capture.direction->number,
                            capture.shown_view()->flags, scratch.data(), scratch.size());
         };
     }
     if (object.name == std::string_view("summary")) {
-        return [](const Library &library, const Capture &capture, Bytes &scratch) {
+        return [](const Build &library, const Capture &capture, Bytes &scratch) {
             library.summary(capture.node, 0, scratch.data(), scratch.size());
         };
     }
     if (object.name == std::string_view("counters")) {
-        return [](const Library &library, const Capture &capture, Bytes &scratch) {
+        return [](const Build &library, const Capture &capture, Bytes &scratch) {
             library.counters(capture.node, 0, scratch.data(), scratch.size());
         };
     }
-    return [](const Library &library, const Capture & /*capture*/, Bytes &scratch) {
+    return [](const Build &library, const Capture & /*capture*/, Bytes &scratch) {
         library.hal_summary(0, scratch.data(), scratch.size());
     };
 }
@@ -304,7 +304,7 @@ static std::vector<Subject> make_subjects()
 
 /// Adds the measurements of some subjects in every way, under one name.
 static void add(std::vector<Measurement> &measurements, const std::string &name,
-                const std::vector<const Subject *> &subjects, const Library &baseline)
+                const std::vector<const Subject *> &subjects, const Build &baseline)
 {
     for (const bool is_pipe : {false, true}) {
         const auto add = [&](const auto &print) { measurements.push_back({name, subjects, print, is_pipe}); };
@@ -317,7 +317,7 @@ static void add(std::vector<Measurement> &measurements, const std::string &name,
 static int run(int argc, char **argv)
 {
     benchmark::Initialize(&argc, argv);
-    const Library baseline = load_baseline();
+    const Build baseline = load_baseline();
     const std::vector<Subject> subjects = make_subjects();
     answer_for(subjects.front().capture.router);
 
