@@ -63,7 +63,9 @@ static void mac_scan(Output &out, Wire &bytes)
 
 static void xid_entry(Output &out, Wire &bytes)
 {
-    print_xid_entry(out, 0, 0x12, received<XidEntry>(bytes).to_host());
+    U32 xid{};
+    set_converted(xid, 0x12);
+    print_xid_entry(out, 0, xid, received<XidEntry>(bytes).to_host());
 }
 
 static auto uidb_entry(std::uint32_t direction)
@@ -92,7 +94,9 @@ static void bridge_domain(Output &out, Wire &bytes)
 
 static void bridge_member(Output &out, Wire &bytes)
 {
-    print_bridge_member(out, 0, 0, {&received<BridgeMemberRecord>(bytes), 1}, 7);
+    StoredU16 irl_shg0_bound_members{};
+    set(irl_shg0_bound_members, 7);
+    print_bridge_member(out, 0, 0, {&received<BridgeMemberRecord>(bytes), 1}, irl_shg0_bound_members);
 }
 
 static void mac(Output &, Wire &bytes)

@@ -74,9 +74,9 @@ private:
         using Type = typename Inside<Field>::Type;
         const bool is_stored = is_in_stored || Inside<Field>::is_stored;
         if constexpr (std::is_array_v<Type>) {
-            using Element = std::remove_extent_t<Type>;
+            using One = std::remove_extent_t<Type>;
             for (std::size_t i = 0; i < std::extent_v<Type>; ++i) {
-                add_field<Element>(name + "[" + std::to_string(i) + "]", offset + i * sizeof(Element), is_stored);
+                add_field<One>(name + "[" + std::to_string(i) + "]", offset + i * sizeof(One), is_stored);
             }
         } else if constexpr (RecordWithFields<Type>) {
             add_fields(name + ".", offset, is_stored, typename Type::Fields{});
