@@ -30,7 +30,7 @@ struct Build {
 };
 
 static const Build the_library = {zel_l2fib_print_internal, zel_l2fib_platform_summary_hw_print_internal,
-                                    zel_l2fib_platform_msg_counter_hw_print_internal, zel_l2fib_trident_print_summary};
+                                  zel_l2fib_platform_msg_counter_hw_print_internal, zel_l2fib_trident_print_summary};
 
 template <class Function>
 static void find(void *library, const char *name, Function &function)

@@ -47,9 +47,10 @@ public:
     template <ShowDataPiece Piece>
     [[nodiscard]] std::span<Piece> array_at(std::uint64_t offset, std::uint32_t count) const
     {
-        return !is_null() && holds(offset, std::uint64_t{count} * sizeof(Piece))
-                   ? unchecked_array<Piece>(begin_, offset, count)
-                   : std::span<Piece>{};
+        if (is_null() || !holds(offset, std::uint64_t{count} * sizeof(Piece))) {
+            return {};
+        }
+        return unchecked_array<Piece>(begin_, offset, count);
     }
 
     /// The show data from an offset on; null show data where it does not reach that far.

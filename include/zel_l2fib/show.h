@@ -209,8 +209,8 @@ ZEL_L2FIB_EXPORT uint32_t zel_l2fib_trident_print_internal(uint32_t level, uint3
                                                            uint32_t direction, uint32_t view_flags, uint8_t *show_data,
                                                            uint64_t size);
 
-/* The views that are called by zel_l2fib_trident_print_internal; card_type is the row of zel_l2fib_hal_print. Statuses: 0,
- * L2FIB_SHOW_ERR_DATA, L2FIB_SHOW_ERR_ARGS for null show data, L2FIB_SHOW_ERR_NOMEM. */
+/* The views that are called by zel_l2fib_trident_print_internal; card_type is the row of zel_l2fib_hal_print. Statuses:
+ * 0, L2FIB_SHOW_ERR_DATA, L2FIB_SHOW_ERR_ARGS for null show data, L2FIB_SHOW_ERR_NOMEM. */
 ZEL_L2FIB_EXPORT uint32_t zel_l2fib_trident_print_internal_detail(uint32_t level, uint32_t objtype, uint32_t card_type,
                                                                   uint32_t direction, uint32_t view_flags,
                                                                   uint8_t *show_data, uint64_t size);
