@@ -1,8 +1,7 @@
 // How long the views take, for each sample and for a mix of a hundred thousand objects: the library, the same views
 // with every piece of text through printf (the baseline), and their text, ready, through one fwrite an object (the
 // floor); and how long it takes to read captures.
-#include "client/capture.h"
-#include "client/held_output.h"
+#include "client/capture_reader.h"
 #include "client/input.h"
 #include "examples/sample_lines.h"
 #include "zel_l2fib/show.h"
@@ -17,6 +16,7 @@
 #include <string>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace l2fib
 {
@@ -65,7 +65,7 @@ static Show show_of(const Object &object)
     if (object.has_views()) {
         return [](const Library &library, const Capture &capture, Bytes &scratch) {
             library.object(capture.object->objtype, capture.node, capture.direction->number,
-                           capture.shown_view()->number, scratch.data(), scratch.size());
+                           capture.shown_view()->flags, scratch.data(), scratch.size());
         };
     }
     if (object.name == std::string_view("summary")) {
@@ -91,7 +91,7 @@ struct Subject {
     std::string text;
 };
 
-/// Standard output, for as long as this lives: /dev/null, or a pipe that somebody empties.
+/// Sends standard output to /dev/null, or to a pipe that a thread empties, until the end of its life.
 class Sink
 {
 public:
@@ -176,7 +176,7 @@ static void measure(benchmark::State &state, const Measurement &measurement)
     state.SetItemsProcessed(iterations * static_cast<std::int64_t>(measurement.subjects.size()));
 }
 
-/// A file of captures: so many of them, the samples in turn.
+/// A file of `count` captures, the samples in turn.
 class CaptureFile
 {
 public:
@@ -186,7 +186,7 @@ public:
         for (std::size_t done = 0; done < count; ++done) {
             lines += sample_line(sample_captures[done % std::size(sample_captures)]) + '\n';
         }
-        // At once: what is written in small pieces lies in small pieces in the system's cache, and is read slower.
+        // In one write: what is written in small pieces is kept in small pieces by the system, and read more slowly.
         if (file_ == nullptr || std::fwrite(lines.data(), 1, lines.size(), file_) != lines.size() ||
             std::fflush(file_) != 0) {
             std::perror("measure-views: a temporary file");
@@ -213,17 +213,17 @@ static void measure_reading(benchmark::State &state, const CaptureFile &file)
     while (state.KeepRunning()) {
         const double begin = cpu_seconds();
         Input input(file.path());
-        CaptureParser parser;
+        CaptureReader reader;
         while (const auto line = input.next_line(longest_line)) {
-            benchmark::DoNotOptimize(parser.parse(line->text));
+            benchmark::DoNotOptimize(reader.read(line->text));
         }
         state.SetIterationTime(cpu_seconds() - begin);
     }
-    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * captures_read));
+    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(captures_read));
 }
 
-/// Prints a line when a subject is measured in every way: the library's, the baseline's and the floor's, to /dev/null
-/// and then to a pipe. What reading takes is compared with the line before.
+/// Prints a line for each subject when it has been measured in every way: the library, the baseline and the floor, to
+/// /dev/null and then to a pipe. Reading is compared with the line before it.
 class TableReporter : public benchmark::BenchmarkReporter
 {
 public:
@@ -275,22 +275,34 @@ private:
     std::vector<double> bytes_per_second_;
 };
 
+/// What a call prints. (glibc lets stdout be another stream for a while.)
+static std::string text_of(const std::function<void()> &call)
+{
+    char *text = nullptr;
+    std::size_t size = 0;
+    std::FILE *screen = std::exchange(stdout, open_memstream(&text, &size));
+    call();
+    std::fclose(std::exchange(stdout, screen));
+    std::string copy(text, size);
+    std::free(text);
+    return copy;
+}
+
 static std::vector<Subject> make_subjects()
 {
     std::vector<Subject> subjects;
-    HeldOutput held;
     for (const SampleCapture &sample : sample_captures) {
         Capture capture = parse_capture(sample_line(sample)).capture;
         const Show show = show_of(*capture.object);
         Bytes scratch = capture.show_data;
-        const std::string_view text = held.text_of([&] { show(the_library, capture, scratch); });
-        Subject subject{sample.name, std::move(capture), show, std::string(text)};
+        std::string text = text_of([&] { show(the_library, capture, scratch); });
+        Subject subject{sample.name, std::move(capture), show, std::move(text)};
         subjects.push_back(std::move(subject));
     }
     return subjects;
 }
 
-/// Has a subject measured in every way, under one name.
+/// Adds the measurements of some subjects in every way, under one name.
 static void add(std::vector<Measurement> &measurements, const std::string &name,
                 const std::vector<const Subject *> &subjects, const Library &baseline)
 {

@@ -1,5 +1,5 @@
-// Shows a sample capture over and over, for a profiler that looks at show_once() only: show-sample NAME TIMES
-#include "client/capture.h"
+// Shows a sample capture many times, for a profiler that looks at show_once() only: show-sample NAME TIMES
+#include "client/capture_line.h"
 #include "examples/sample_lines.h"
 
 #include <cstdlib>

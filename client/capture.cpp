@@ -6,8 +6,8 @@ namespace l2fib
 std::uint32_t Capture::show(std::span<std::uint8_t> other_data) const
 {
     answer_for(router);
-    const Choice *chosen = shown_view();
-    return object->show(*object, {node, direction->number, chosen == nullptr ? 0 : chosen->number}, other_data);
+    const View *chosen = shown_view();
+    return object->show(*object, {node, direction->number, chosen == nullptr ? 0 : chosen->flags}, other_data);
 }
 
 } // namespace l2fib

@@ -16,12 +16,17 @@ ExitStatus complain(std::string_view what)
     return unusable;
 }
 
+const char *text_of_status(std::uint32_t status)
+{
+    const char *text = status_text(status);
+    return text == nullptr ? "(null)" : text;
+}
+
 ExitStatus report_status(std::uint32_t status, std::string_view place)
 {
     std::array<char, sizeof "0xffffffff"> code{};
     std::snprintf(code.data(), code.size(), "0x%08x", status);
-    const char *text = status_text(status); // a router's own may have none
-    complain(std::string(place) + "status " + code.data() + ": " + (text == nullptr ? "(null)" : text));
+    complain(std::string(place) + "status " + code.data() + ": " + text_of_status(status));
     return view_failed;
 }
 

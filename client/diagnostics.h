@@ -17,6 +17,9 @@ enum ExitStatus : int {
 /// Prints a line with the program's name. Returns `unusable`.
 ExitStatus complain(std::string_view what);
 
+/// The router's text of a status; never null, though a router may have none.
+const char *text_of_status(std::uint32_t status);
+
 /// Says how a view failed. Returns `view_failed`.
 ExitStatus report_status(std::uint32_t status, std::string_view place = {});
 

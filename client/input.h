@@ -9,7 +9,7 @@
 namespace l2fib
 {
 
-/// A file, or standard input for "-". The texts that it returns stand until it is read on.
+/// A file, or standard input for "-". The texts that it returns are valid until it is read on.
 class Input
 {
 public:

@@ -1,14 +1,17 @@
 // l2fib-show: prints saved show data as the router's show commands do.
-#include "client/capture.h"
+#include "client/capture_writer.h"
 #include "client/diagnostics.h"
 #include "client/replay.h"
 #include "client/show_data_file.h"
+#include "client/whole_number.h"
 
 #include <CLI/CLI.hpp>
 
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <limits>
+#include <new>
 #include <sstream>
 
 namespace l2fib
@@ -46,31 +49,53 @@ static CLI::Option *add_named(CLI::App &app, const char *option, std::span<const
 
 static void add_direction_and_view(CLI::App &app, Capture &capture)
 {
-    const std::span<const Choice> sides = directions();
+    const std::span<const Direction> sides = directions();
     auto *ingress = app.add_flag_callback(
         "--ingress", [&capture, sides] { capture.direction = &sides.front(); }, "The ingress side (the default)");
     app.add_flag_callback(
            "--egress", [&capture, sides] { capture.direction = &sides[1]; }, "The egress side")
         ->excludes(ingress);
-    add_named<Choice>(
-        app, "--view", views(), [&capture](const Choice &view) { capture.view = &view; },
+    add_named<View>(
+        app, "--view", views(), [&capture](const View &view) { capture.view = &view; },
         "detail, private or inconsistent (default: detail; private for nhop and resources)")
         ->type_name("VIEW");
+}
+
+/// An option whose argument is a number, written as in captures. CLI11 is handed it in plain decimal: by its own rules,
+/// a number that begins with 0 is octal.
+template <class Number, class Field>
+static CLI::Option *add_number(CLI::App &app, const char *option, Field &field, const char *type_name, const char *help)
+{
+    const auto in_decimal = [](std::string &text) {
+        constexpr Number highest = std::numeric_limits<Number>::max();
+        const auto number = whole_number(text);
+        if (!number) {
+            return "no number: " + spelled_out(text);
+        }
+        if (*number > highest) {
+            return "number above " + std::to_string(highest) + ": " + spelled_out(text);
+        }
+        text = std::to_string(*number);
+        return std::string();
+    };
+    return app.add_option(option, field, help)->type_name(type_name)->transform(CLI::Validator(in_decimal, ""));
 }
 
 static void add_router(CLI::App &app, Request &request)
 {
     Router &router = request.capture.router;
-    app.add_option("--node", request.capture.node, "The node of the object (default: 0)")->type_name("ID");
-    app.add_option("--card", router.card_type, "The card-type code of the node (default: 0x1e1000)")->type_name("CODE");
-    app.add_option("--virtual-interface", router.virtual_interfaces, "The handle of a virtual interface; repeatable")
-        ->type_name("HANDLE")
+    add_number<std::uint32_t>(app, "--node", request.capture.node, "ID", "The node of the object (default: 0)");
+    add_number<std::uint32_t>(app, "--card", router.card_type, "CODE",
+                              "The card-type code of the node (default: 0x1e1000)");
+    add_number<std::uint32_t>(app, "--virtual-interface", router.virtual_interfaces, "HANDLE",
+                              "The handle of a virtual interface; repeatable")
         ->allow_extra_args(false);
-    auto *monotonic = app.add_option("--monotonic", request.monotonic_seconds,
-                                     "The router's monotonic clock when the show data was taken");
-    auto *wall = app.add_option("--wall", request.wall_seconds, "Its wall clock, since 1970, at the same time");
-    monotonic->type_name("SECONDS")->needs(wall);
-    wall->type_name("SECONDS")->needs(monotonic);
+    auto *monotonic = add_number<std::uint64_t>(app, "--monotonic", request.monotonic_seconds, "SECONDS",
+                                                "The router's monotonic clock when the show data was taken");
+    auto *wall = add_number<std::uint64_t>(app, "--wall", request.wall_seconds, "SECONDS",
+                                           "Its wall clock, since 1970, at the same time");
+    monotonic->needs(wall);
+    wall->needs(monotonic);
     app.add_option("--time-zone", router.time_zone, "Its time zone, as POSIX writes it: CET-1CEST,M3.5.0,M10.5.0/3")
         ->type_name("ZONE")
         ->check([](const std::string &zone) {
@@ -130,11 +155,11 @@ static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options)
         ->check(CLI::IsMember(names_of(objects())))
         ->type_name("OBJECT")
         ->allow_extra_args(false);
-    command.add_option("--node", selection.node, "Only objects of this node")->type_name("ID");
+    add_number<std::uint32_t>(command, "--node", selection.node, "ID", "Only objects of this node");
     command.add_option("--direction", selection.direction, "Only this side: ingress or egress")
         ->check(CLI::IsMember(names_of(directions())))
         ->type_name("SIDE");
-    command.add_option("--xid", selection.xid, "Only objects of this cross-connect ID")->type_name("XID");
+    add_number<std::uint32_t>(command, "--xid", selection.xid, "XID", "Only objects of this cross-connect ID");
     command
         .add_option_function<std::string>(
             "--status", [&selection](const std::string &status) { selection.failed = status == "failed"; },
@@ -231,9 +256,12 @@ static ExitStatus run(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    std::signal(SIGPIPE, SIG_IGN); // a closed pipe is an output that did not arrive
+    std::signal(SIGPIPE, SIG_IGN); // a closed pipe and a file that may not grow are outputs that did not arrive
+    std::signal(SIGXFSZ, SIG_IGN);
     try {
         return l2fib::run(argc, argv);
+    } catch (const std::bad_alloc &) {
+        return l2fib::complain("out of memory");
     } catch (const std::exception &error) {
         return l2fib::complain(error.what());
     }

@@ -11,39 +11,41 @@
 namespace l2fib
 {
 
-static std::uint32_t show_object(const Object &object, const Question &question, std::span<std::uint8_t> show_data)
+static std::uint32_t show_object(const Object &object, const ViewArguments &arguments,
+                                 std::span<std::uint8_t> show_data)
 {
-    return zel_l2fib_print_internal(object.objtype, question.node, question.direction, question.view_flags,
+    return zel_l2fib_print_internal(object.objtype, arguments.node, arguments.direction, arguments.view_flags,
                                     show_data.data(), show_data.size());
 }
 
-static std::uint32_t show_state_summary(const Object &, const Question &question, std::span<std::uint8_t> show_data)
+static std::uint32_t show_state_summary(const Object &, const ViewArguments &arguments,
+                                        std::span<std::uint8_t> show_data)
 {
-    return zel_l2fib_platform_summary_hw_print_internal(question.node, 0, show_data.data(), show_data.size());
+    return zel_l2fib_platform_summary_hw_print_internal(arguments.node, 0, show_data.data(), show_data.size());
 }
 
-static std::uint32_t show_counters(const Object &, const Question &question, std::span<std::uint8_t> show_data)
+static std::uint32_t show_counters(const Object &, const ViewArguments &arguments, std::span<std::uint8_t> show_data)
 {
-    return zel_l2fib_platform_msg_counter_hw_print_internal(question.node, 0, show_data.data(), show_data.size());
+    return zel_l2fib_platform_msg_counter_hw_print_internal(arguments.node, 0, show_data.data(), show_data.size());
 }
 
-static std::uint32_t show_hal_summary(const Object &, const Question &, std::span<std::uint8_t> show_data)
+static std::uint32_t show_hal_summary(const Object &, const ViewArguments &, std::span<std::uint8_t> show_data)
 {
     return zel_l2fib_trident_print_summary(0, show_data.data(), show_data.size());
 }
 
-static constexpr Choice view_table[] = {
+static constexpr View view_table[] = {
     {"detail", L2FIB_VIEW_DETAIL},
     {"private", L2FIB_VIEW_PRIVATE},
     {"inconsistent", L2FIB_VIEW_INCONSISTENT},
 };
-static constexpr Choice direction_table[] = {
+static constexpr Direction direction_table[] = {
     {"ingress", L2FIB_INGRESS},
     {"egress", L2FIB_EGRESS},
 };
 
-static constexpr const Choice *detail = &view_table[0];
-static constexpr const Choice *private_view = &view_table[1];
+static constexpr const View *detail = &view_table[0];
+static constexpr const View *private_view = &view_table[1];
 
 constexpr std::size_t ac_xid = offsetof(AcShowData, context) + offsetof(AcContext, xid);
 constexpr std::size_t bridge_xid = offsetof(BridgeShowData, context) + offsetof(BridgeContext, bvi_xid);
@@ -76,12 +78,12 @@ std::span<const Object> objects()
     return object_table;
 }
 
-std::span<const Choice> views()
+std::span<const View> views()
 {
     return view_table;
 }
 
-std::span<const Choice> directions()
+std::span<const Direction> directions()
 {
     return direction_table;
 }

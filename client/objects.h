@@ -9,14 +9,20 @@
 namespace l2fib
 {
 
-/// A view or a direction: its name, and the number that the library has for it.
-struct Choice {
+/// A side of an object: ingress or egress.
+struct Direction {
     const char *name;
-    std::uint32_t number;
+    std::uint32_t number; ///< that the library has for it
 };
 
-/// What the library is asked beside the object itself.
-struct Question {
+/// What is shown of an object.
+struct View {
+    const char *name;
+    std::uint32_t flags; ///< by which the library chooses it
+};
+
+/// What a function of the library is called with, beside the object and its show data.
+struct ViewArguments {
     std::uint32_t node;
     std::uint32_t direction;
     std::uint32_t view_flags;
@@ -25,9 +31,9 @@ struct Question {
 struct Object {
     const char *name;
     const char *description;
-    std::uint32_t objtype;      ///< none for a summary
-    const Choice *default_view; ///< null for what has no views and no direction
-    std::uint32_t (*show)(const Object &object, const Question &question, std::span<std::uint8_t> show_data);
+    std::uint32_t objtype;    ///< none for a summary
+    const View *default_view; ///< null for what has no views and no direction
+    std::uint32_t (*show)(const Object &object, const ViewArguments &arguments, std::span<std::uint8_t> show_data);
     std::size_t xid_offset = 0; ///< of its cross-connect ID in the show data; 0 when it has none
 
     [[nodiscard]] bool has_views() const { return default_view != nullptr; }
@@ -37,8 +43,8 @@ struct Object {
 };
 
 std::span<const Object> objects();
-std::span<const Choice> views();
-std::span<const Choice> directions(); ///< the default first
+std::span<const View> views();
+std::span<const Direction> directions(); ///< the default first
 
 /// The row of a name, null when there is none.
 template <class Row>

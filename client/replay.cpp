@@ -1,10 +1,10 @@
 #include "client/replay.h"
 
-#include "client/held_output.h"
+#include "client/capture_reader.h"
+#include "client/discarded_output.h"
 #include "client/input.h"
 #include "client/progress.h"
 #include "client/show_data_file.h"
-#include "platform/platform.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -30,7 +30,7 @@ class Tally
 public:
     void add(const Capture &capture, std::uint32_t status)
     {
-        const Choice *view = capture.shown_view();
+        const View *view = capture.shown_view();
         ++counts_[{capture.object->name, view == nullptr ? "-" : view->name, status}];
     }
 
@@ -41,7 +41,7 @@ public:
         for (const auto &[row, count] : counts_) {
             const auto &[object, view, status] = row;
             std::printf("%-12s %-13s %10zu  0x%08x %s\n", object.c_str(), view.c_str(), count, status,
-                        status_text(status));
+                        text_of_status(status));
             total += count;
         }
         std::printf("%-12s %-13s %10zu\n", "all", "", total);
@@ -51,7 +51,7 @@ private:
     std::map<std::tuple<std::string, std::string, std::uint32_t>, std::size_t> counts_;
 };
 
-/// Where a capture stands.
+/// Where a capture is from.
 struct Place {
     const std::string &file;
     std::size_t line;
@@ -79,6 +79,7 @@ public:
 private:
     void read_line(const Input::Line &line, const Place &place);
     void show(Capture &capture, const Place &place);
+    std::uint32_t status_of(const Capture &capture);
     void print_heading(const Capture &capture, const Place &place);
 
     void note(ExitStatus status) { exit_status_ = std::max(exit_status_, status); }
@@ -89,9 +90,9 @@ private:
     }
 
     const ReplayOptions &options_;
-    HeldOutput held_;
     Progress progress_;
-    CaptureParser parser_;
+    CaptureReader reader_;
+    Capture tried_; ///< keeps its memory
     Tally tally_;
     bool is_first_ = true;
     ExitStatus exit_status_ = shown;
@@ -123,7 +124,7 @@ void Replay::read_line(const Input::Line &line, const Place &place)
     if (line.text.find_first_not_of(" \t\r") == std::string_view::npos) {
         return;
     }
-    CaptureLine &parsed = parser_.parse(line.text);
+    CaptureLine &parsed = reader_.read(line.text);
     if (!parsed.error.empty()) {
         report(place.text() + ": " + parsed.error);
     } else if (options_.selection.fits(parsed.capture)) {
@@ -131,29 +132,31 @@ void Replay::read_line(const Input::Line &line, const Place &place)
     }
 }
 
+/// Shows a capture to nobody. A view converts its show data, so it is a copy that is shown.
+std::uint32_t Replay::status_of(const Capture &capture)
+{
+    tried_ = capture;
+    const DiscardedOutput discarded;
+    return tried_.show();
+}
+
 void Replay::show(Capture &capture, const Place &place)
 {
     const auto &failed = options_.selection.failed;
-    std::uint32_t status = 0;
-    if (!options_.count && !failed) {
-        print_heading(capture, place);
-        status = capture.show();
-    } else {
-        // What comes of it decides whether its text is wanted.
-        const std::string_view text = held_.text_of([&] { status = capture.show(); });
+    if (options_.count || failed) {
+        const std::uint32_t status = status_of(capture);
         if (failed && *failed != (status != 0)) {
             return;
         }
         if (options_.count) {
             tally_.add(capture, status);
-        } else {
-            print_heading(capture, place);
-            std::fwrite(text.data(), 1, text.size(), stdout);
+            note(status == 0 ? shown : view_failed);
+            return;
         }
     }
-    if (options_.count) {
-        note(status == 0 ? shown : view_failed);
-    } else if (status != 0) {
+    print_heading(capture, place);
+    const std::uint32_t status = capture.show();
+    if (status != 0) {
         progress_.clear();
         note(report_status(status, place.text() + ": "));
     }
@@ -164,7 +167,7 @@ void Replay::print_heading(const Capture &capture, const Place &place)
     if (!options_.heading) {
         return;
     }
-    const Choice *view = capture.shown_view();
+    const View *view = capture.shown_view();
     const std::string how = view == nullptr ? "" : std::string(" ") + capture.direction->name + " " + view->name;
     std::printf("%s== %s: %s%s\n", is_first_ ? "" : "\n", place.text().c_str(), capture.object->name, how.c_str());
     is_first_ = false;

@@ -4,6 +4,10 @@
 #include "client/capture.h"
 #include "client/diagnostics.h"
 
+#include <optional>
+#include <string>
+#include <vector>
+
 namespace l2fib
 {
 

@@ -8,7 +8,7 @@ namespace l2fib
 static HexBytes bytes_of(std::string_view text, std::optional<HexForm> hex)
 {
     if (hex) {
-        return read_hex(text, *hex, longest_show_data);
+        return read_hex_dump(text, *hex, longest_show_data);
     }
     if (text.size() > longest_show_data) {
         return {{}, "more bytes than any show data has"};

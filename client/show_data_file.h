@@ -1,7 +1,7 @@
 // Show data as it comes in a bug report: raw bytes, or a hex dump.
 #pragma once
 
-#include "client/hex.h"
+#include "client/hex_dump.h"
 
 #include <cstdint>
 #include <optional>

@@ -2,7 +2,7 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-# Under a prefix of its own, the installation finds its libraries wherever it is moved.
+# Outside /usr, the installation can be moved: its programs find its libraries by their own place.
 if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     file(RELATIVE_PATH lib_from_bin ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
     set_target_properties(l2fib-show PROPERTIES INSTALL_RPATH "$ORIGIN/${lib_from_bin}")
@@ -27,7 +27,7 @@ file(RELATIVE_PATH prefix_from_pc ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE
 configure_file(cmake/zel_l2fib.pc.in zel_l2fib.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zel_l2fib.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
 
-# Installs the files that match a pattern, none where there are none.
+# Installs the files that match a pattern, of which there may be none.
 function(l2fib_install_matching pattern destination component)
     file(GLOB files CONFIGURE_DEPENDS ${pattern})
     install(FILES ${files} DESTINATION ${destination} COMPONENT ${component})

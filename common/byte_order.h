@@ -1,4 +1,4 @@
-// Turning numbers round.
+// The order of bytes and bits in a number.
 #pragma once
 
 #include <bit>
@@ -23,7 +23,7 @@ constexpr Integer byte_swapped(Integer value)
     }
 }
 
-/// The bits of a word, from the other end.
+/// A word with its bits in reverse order.
 template <class Word>
 constexpr Word bits_reversed(Word word)
 {

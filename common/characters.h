@@ -1,4 +1,4 @@
-// Characters one after the other, where there is room for them.
+// Copies and fills characters, in room that the caller provides.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +7,7 @@
 namespace l2fib
 {
 
-/// Bytes that fill() may write past its end.
+/// How many bytes fill() may write past the end that it returns.
 constexpr std::size_t fill_slack = 16;
 
 /// Copies `size` bytes. Returns the end.
@@ -17,7 +17,7 @@ constexpr std::size_t fill_slack = 16;
     return to + size;
 }
 
-/// Fills `size` bytes, and some more after them. Returns the end.
+/// Fills `size` bytes in blocks, the last of which may reach past the end. Returns the end.
 inline char *fill(char *to, char with, std::size_t size)
 {
     for (std::size_t done = 0; done < size; done += fill_slack) {

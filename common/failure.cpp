@@ -5,7 +5,7 @@
 namespace l2fib
 {
 
-// What the two messages below print in the action's place.
+// The numbers that two of the messages print as their action.
 constexpr int action_null_show_data = 99;
 constexpr int action_wrong_objtype = 100;
 

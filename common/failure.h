@@ -1,4 +1,4 @@
-// Failures, each with its diagnostic and its status.
+// Failures: each function prints the message of one and returns its status.
 #pragma once
 
 #include "common/output.h"
@@ -7,10 +7,10 @@
 namespace l2fib
 {
 
-/// The router's text of a status, for which the views ask here. Never null, even where the router's is.
+/// The router's text of a status. Never null, even where the router's is.
 const char *status_text(std::uint32_t status);
 
-/// Show data that ends early: the bytes that there are and the bytes that are needed.
+/// Show data of `size` bytes where at least `needed` are.
 std::uint32_t short_data(Output &out, std::uint32_t level, std::uint64_t size, std::uint64_t needed);
 
 /// A hardware handler that was called without show data.
@@ -25,7 +25,7 @@ std::uint32_t null_summary(Output &out, const Literal &function);
 /// A summary whose show data ends early.
 std::uint32_t wrong_summary_size(Output &out, const Literal &function, std::uint64_t size);
 
-/// An object that a view does not show. Opens no line, and is no failure: the status is 0.
+/// An object that a view does not show. Prints on the current line. Not a failure: the status is 0.
 std::uint32_t wrong_objtype(Output &out, const Literal &function, std::uint32_t objtype);
 
 } // namespace l2fib

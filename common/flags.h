@@ -11,9 +11,9 @@ namespace l2fib
 {
 
 struct Flag {
-    unsigned number; ///< as the word's set_flags() have it, or the bit of a plain number
+    unsigned number; ///< its bit in what set_flags() returns for the word
     Literal text;
-    Literal text_when_clear = nullptr; ///< printed instead when the flag is clear
+    Literal text_when_clear = nullptr; ///< printed instead when the flag is clear, if there is one
 };
 
 constexpr std::uint32_t all_flags = 0xffffffff;
@@ -22,7 +22,7 @@ constexpr std::uint32_t all_flags_but(unsigned number)
     return ~(std::uint32_t{1} << number);
 }
 
-/// The flags of a word by their numbers: the bits of a plain number.
+/// The flags that are set in a word, as a bit for each flag number. Of a plain number, these are its own bits.
 template <class Word>
 constexpr std::uint32_t set_flags(const Word &word)
 {
@@ -43,7 +43,7 @@ template <std::size_t size>
 struct FlagTable {
     consteval FlagTable(const Flag (&flags)[size]) : FlagTable(flags, std::make_index_sequence<size>()) {}
 
-    /// Those flags whose text a word with these flags set prints.
+    /// The flags that print a text: those in `set`, and those not in it that have a text_when_clear.
     [[nodiscard]] constexpr std::uint32_t shown(std::uint32_t set) const
     {
         return (set & named_) | (~set & named_when_clear_);
@@ -64,7 +64,7 @@ private:
         }
     }
 
-    static void is_malformed() {} // not constexpr: reaching it is the compiler's error
+    static void is_malformed() {} // not constexpr: a call when compiling is an error
 
     std::uint32_t named_ = 0;
     std::uint32_t named_when_clear_ = 0;

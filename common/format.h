@@ -1,7 +1,7 @@
 // printf formats that the compiler reads: each is compared with its arguments, and taken apart for the output unit,
-// when the code is compiled. (A format taken apart at run time costs two to seven times the instructions.)
+// when the code is compiled. (Formats that are taken apart at run time take 1.5 to 7 times the instructions.)
 //
-// Beside numbers and C strings they take the fields of the show data themselves, and texts that a formatter made.
+// The arguments may be numbers, C strings, fields of the show data, and texts that a formatter made.
 #pragma once
 
 #include "common/literal.h"
@@ -42,16 +42,16 @@ inline std::string_view printf_argument(const Text &text)
     return text.view();
 }
 
-/// What becomes of one argument, and the text in front of it.
+/// How one argument is printed, and where the text before it is.
 struct Conversion {
     enum Kind : std::uint8_t { none, decimal, unsigned_decimal, hex, upper_hex, string };
 
     static constexpr std::size_t longest_width = 64;
 
-    std::uint16_t at = 0;      ///< where in the format the text in front of it begins
+    std::uint16_t at = 0;      ///< where in the format the text before it begins
     std::uint16_t literal = 0; ///< characters of that text
     std::uint8_t width = 0;
-    Kind kind = none; ///< none behind the last argument
+    Kind kind = none; ///< none after the last argument
     bool left_aligned = false;
     bool zero_filled = false;
 };
@@ -60,7 +60,7 @@ template <class... Args>
 class Format
 {
 public:
-    // Implicit, so that a format is written as the string that it is.
+    // Implicit, so that callers write a plain string.
     consteval Format(const char *text) : text_(text)
     {
         const std::string_view whole = text;
@@ -79,7 +79,7 @@ public:
         }
     }
 
-    /// The conversion of an argument; that behind the last one has the text behind it.
+    /// The conversion of an argument. There is one more, for the text after the last argument.
     [[nodiscard, gnu::always_inline]] constexpr Conversion conversion(std::size_t argument) const
     {
         return conversions_[argument];
@@ -90,12 +90,12 @@ public:
     }
     [[nodiscard]] constexpr const char *text() const { return text_; }
 
-    /// The characters that it makes at most, with strings that are no longer than a width can be.
+    /// The most characters that it prints when no string is longer than Conversion::longest_width.
     [[nodiscard, gnu::always_inline]] constexpr std::size_t room() const { return room_; }
     static constexpr std::size_t max_room = 1024;
 
 private:
-    static void does_not_fit_its_arguments() {} // not constexpr: reaching it is the compiler's error
+    static void does_not_fit_its_arguments() {} // not constexpr: a call when compiling is an error
 
     template <class Arg>
     using Passed = decltype(printf_argument(std::declval<const Arg &>()));

@@ -79,7 +79,7 @@ Text elapsed_text(std::uint64_t ns)
     return number_text("%u d ", days);
 }
 
-/// What snprintf does with a text, and what it returns.
+/// Stores a text as snprintf does, and returns the same.
 static int store(const Text &text, char *room, std::size_t capacity)
 {
     if (capacity != 0) {

@@ -1,4 +1,4 @@
-// The wrapped list: how every labelled run of values and flags is laid out.
+// The wrapped list, by which lines of values and flags are printed.
 #pragma once
 
 #include "common/flags.h"
@@ -7,8 +7,8 @@
 namespace l2fib
 {
 
-/// Items on one line, joined by ", ". An item that would begin behind column 70 goes to a new line instead, indented
-/// to the continuation column; the test is made before the first item too.
+/// Items on one line, joined by ", ". An item that would begin after column 70 goes to a new line, indented to the
+/// continuation column. So does a first item, when the text before it is that long.
 class List
 {
 public:
@@ -25,7 +25,7 @@ public:
         continuation_ = column_;
     }
 
-    /// Text in front of the first item; it takes room on the line but is no item.
+    /// Text that is no item: no comma comes before it. It counts for the column.
     template <class... Args>
     [[gnu::always_inline]] void text(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
@@ -64,10 +64,10 @@ public:
     /// The column at which the line begins.
     [[nodiscard]] std::int64_t indentation() const { return indentation_; }
 
-    /// Has the items from here on continue at another column.
+    /// Sets the column at which the line continues when it wraps from here on.
     void continue_at(std::int64_t column) { continuation_ = column; }
 
-    /// What a list of flags shows when none was set.
+    /// Prints "None" when the list has no items.
     void none_if_empty()
     {
         if (items_ == 0) {
@@ -90,9 +90,8 @@ private:
 
     void wrap();
 
-    // Wide enough for the columns of any level.
     Output &out_;
-    std::int64_t indentation_;
+    std::int64_t indentation_; // 64 bits hold the column of any level
     std::int64_t column_;
     std::int64_t continuation_;
     unsigned items_ = 0;

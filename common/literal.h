@@ -1,4 +1,4 @@
-// Texts of the code.
+// Texts that are written in the code.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +7,7 @@
 namespace l2fib
 {
 
-/// A text of the code, whose length the compiler knows. As a row of a table it may be left out.
+/// A text whose length the compiler knows. Null where a row of a table has none.
 struct Literal {
     consteval Literal(const char *text) : chars(text), size(text == nullptr ? 0 : std::string_view(text).size()) {}
 

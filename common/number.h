@@ -1,4 +1,4 @@
-// Numbers of the show data. Their types say in which byte order they are.
+// Numbers of the show data. The type of a number says which byte order it has.
 //
 // Every type here has alignment 1, so a struct of them is exactly its layout, and a field may be at any offset.
 #pragma once
@@ -15,8 +15,8 @@ namespace l2fib
 template <std::size_t size>
 using Bytes = std::array<std::uint8_t, size>;
 
-/// A number that arrives big-endian and is converted together with its record. It is out of reach until then: a record
-/// as received hands out no fields (common/record.h).
+/// A number that arrives big-endian and is converted together with its record. Nobody can read it before: a Received
+/// record hands out no fields (common/record.h).
 template <class Integer>
 struct Number {
     [[nodiscard]] constexpr Integer value() const { return std::bit_cast<Integer>(bytes); }

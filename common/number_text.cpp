@@ -25,7 +25,7 @@ static constexpr DigitPairs decimal_pairs = digit_pairs<10>("0123456789");
 static constexpr DigitPairs hex_pairs = digit_pairs<16>("0123456789abcdef");
 static constexpr DigitPairs upper_hex_pairs = digit_pairs<16>("0123456789ABCDEF");
 
-/// Writes digits in front of an end, two at a time.
+/// Writes `count` digits that end at `end`, two at a time.
 template <unsigned base>
 static void write_digits(char *end, unsigned count, std::uint64_t value, const DigitPairs &pairs)
 {
@@ -47,7 +47,7 @@ static unsigned bit_width(std::uint64_t value)
 static unsigned decimal_digits(std::uint64_t value)
 {
     static constexpr auto powers = [] {
-        std::array<std::uint64_t, 20> table{}; // of as many digits as there can be
+        std::array<std::uint64_t, 20> table{}; // the largest number has 20 digits
         std::uint64_t power = 1;
         for (std::uint64_t &entry : table) {
             entry = power;
@@ -55,8 +55,8 @@ static unsigned decimal_digits(std::uint64_t value)
         }
         return table;
     }();
-    const std::uint64_t nonzero = value | 1U;                    // as long as the value
-    const unsigned at_most = bit_width(nonzero) * 1233U / 4096U; // its logarithm; 1233 / 4096 is that of 2
+    const std::uint64_t nonzero = value | 1U;                    // 0 has a digit too
+    const unsigned at_most = bit_width(nonzero) * 1233U / 4096U; // 1233 / 4096 is the decimal logarithm of 2
     return at_most + (nonzero >= powers[at_most] ? 1 : 0);
 }
 
@@ -101,7 +101,7 @@ char *write_hex(char *at, std::uint64_t value)
     return write_zero_filled_hex(at, hex_digits(value), value);
 }
 
-/// Of a width that the compiler knows.
+/// The same for a width that the compiler knows.
 template <unsigned width>
 static char *write_zero_filled_hex(char *at, std::uint64_t value)
 {

@@ -1,4 +1,4 @@
-// Numbers as text, where there is room for it.
+// Numbers as text, in room that the caller provides.
 #pragma once
 
 #include "common/characters.h"
@@ -11,7 +11,7 @@
 namespace l2fib
 {
 
-/// What most numbers are written by: those without a sign, and hex filled with zeros.
+// For most numbers: those without a sign, and hex filled with zeros.
 char *write_long_decimal(char *at, std::uint64_t value);
 char *write_long_right_aligned_decimal(char *at, unsigned width, std::uint64_t value);
 char *write_left_aligned_decimal(char *at, unsigned width, std::uint64_t value);
@@ -31,11 +31,11 @@ inline char *write_right_aligned_decimal(char *at, unsigned width, std::uint64_t
     return write_long_right_aligned_decimal(at, width, value);
 }
 
-/// What all others are.
+/// For all other numbers.
 char *write_padded_number(char *at, Conversion conversion, std::uint64_t value);
 
-/// Writes a number as printf would. The room is the caller's business: the width, or 20 characters, and fill_slack
-/// behind them. Returns the end.
+/// Writes a number as printf would. Needs room for the width, or for 20 characters if that is more, and for fill_slack
+/// after them. Returns the end.
 [[gnu::always_inline]] inline char *write_number(char *at, Conversion conversion, std::uint64_t value)
 {
     const bool is_decimal = conversion.kind == Conversion::decimal || conversion.kind == Conversion::unsigned_decimal;
@@ -68,7 +68,7 @@ constexpr std::uint64_t number_bits(Conversion::Kind kind, Integer value)
     return static_cast<std::make_unsigned_t<Passed>>(value);
 }
 
-/// A format of numbers, whose text is sure to fit.
+/// A format of numbers whose text is sure to fit into a Text.
 template <class... Numbers>
 class NumberFormat
 {
@@ -83,7 +83,7 @@ public:
     [[nodiscard]] constexpr const Format<Numbers...> &format() const { return format_; }
 
 private:
-    static void does_not_fit() {} // not constexpr: reaching it is the compiler's error
+    static void does_not_fit() {} // not constexpr: a call when compiling is an error
 
     Format<Numbers...> format_;
 };

@@ -8,7 +8,7 @@
 namespace l2fib
 {
 
-/// The name of an object type, "Invalid" for a code that is none.
+/// The name of an object type, "Invalid" for an unknown code.
 Literal objtype_name(std::uint32_t objtype);
 
 } // namespace l2fib

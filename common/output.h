@@ -1,67 +1,29 @@
 // The one way out: all text of the library leaves through an Output.
 #pragma once
 
-#include "common/characters.h"
-#include "common/format.h"
-#include "common/number_text.h"
+#include "common/text_writer.h"
 
-#include <cstdint>
-#include <cstdio>
 #include <type_traits>
+#include <utility>
 
 namespace l2fib
 {
 
-/// The text of one call into the library. It is put together here and handed to the stream when there is no more room,
-/// and before control leaves the library: flush() is for what may print by itself, and the end of the call does the
-/// rest.
-class Output
+class Output : public TextWriter
 {
 public:
-    explicit Output(std::FILE *stream = stdout) : stream_(stream) {}
-    ~Output() { flush(); }
-    Output(const Output &) = delete;
-    Output &operator=(const Output &) = delete;
+    explicit Output(std::FILE *stream = stdout) : TextWriter(stream) {}
 
-    void flush();
+    using TextWriter::line;
 
-    /// Text as it stands. Returns the number of characters, as do the others.
+    /// Prints on the current line. Returns the number of characters.
     template <class... Args>
     [[gnu::always_inline]] int text(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
         return text(format, std::index_sequence_for<Args...>(), printf_argument(args)...);
     }
 
-    /// One character over and over.
-    void repeat(char c, std::uint64_t count)
-    {
-        if (count > few) {
-            put_many(c, count);
-        } else {
-            reserve(few);
-            next_ = fill(next_, c, count);
-        }
-    }
-
-    /// As many blanks as printf pads a width with. One that overflowed to a negative number pads as well.
-    int blanks(std::int64_t width)
-    {
-        repeat(' ', static_cast<std::uint64_t>(width < 0 ? -width : width));
-        return static_cast<int>(width < 0 ? -width : width);
-    }
-
-    /// The blanks in front of a line, two a level.
-    int indent(std::uint32_t level) { return blanks(static_cast<std::int32_t>(2 * level)); }
-
-    /// Opens a new line, and ends the one before; returns the column reached.
-    int line(std::uint32_t level)
-    {
-        reserve(1 + few);
-        *next_++ = '\n';
-        return indent(level);
-    }
-
-    /// Opens a new line and prints its text.
+    /// Ends the line and prints the next one, except for its end.
     template <class... Args>
     [[gnu::always_inline]] void line(std::uint32_t level, const Format<std::type_identity_t<Args>...> &format,
                                      const Args &...args)
@@ -70,7 +32,7 @@ public:
         text<Args...>(format, args...);
     }
 
-    /// The line that a show command begins with: there is none before it to end.
+    /// Prints the first line of a show command: there is no line before it to end.
     template <class... Args>
     [[gnu::always_inline]] void first_line(std::uint32_t level, const Format<std::type_identity_t<Args>...> &format,
                                            const Args &...args)
@@ -80,20 +42,6 @@ public:
     }
 
 private:
-    static constexpr std::size_t buffer_size = 4096;
-    static constexpr std::uint64_t few = 128;
-
-    void put_many(char c, std::uint64_t count);
-
-    /// Makes room for so many characters, of at most a buffer.
-    void reserve(std::size_t size)
-    {
-        if (next_ > buffer_ + buffer_size - size) {
-            flush();
-        }
-    }
-
-    // Inlined down to the characters, the compiler knows the format of each call, and what is left is what it prints.
     template <class AnyFormat, std::size_t... indices, class... Values>
     [[gnu::always_inline]] int text(const AnyFormat &format, std::index_sequence<indices...> /*all*/, Values... values)
     {
@@ -103,44 +51,6 @@ private:
         printed += put_literal(format, sizeof...(Values));
         return static_cast<int>(printed);
     }
-
-    template <class AnyFormat>
-    [[gnu::always_inline]] std::size_t put_literal(const AnyFormat &format, std::size_t index)
-    {
-        const std::size_t size = format.conversion(index).literal;
-        next_ = copy(next_, format.literal(index), size);
-        return size;
-    }
-
-    template <class AnyFormat, class Integer>
-    [[gnu::always_inline]] std::size_t put(const AnyFormat & /*format*/, Conversion conversion, Integer value)
-    {
-        const char *begin = next_;
-        next_ = write_number(next_, conversion, number_bits(conversion.kind, value));
-        return static_cast<std::size_t>(next_ - begin);
-    }
-
-    template <class AnyFormat>
-    [[gnu::always_inline]] std::size_t put(const AnyFormat &format, Conversion conversion, std::string_view string)
-    {
-        const std::size_t size = string.size();
-        if (size > Conversion::longest_width) {
-            put_long_string(string);
-            reserve(format.room());
-            return size;
-        }
-        const std::size_t padding = conversion.width > size ? conversion.width - size : 0;
-        char *at = fill(next_, ' ', conversion.left_aligned ? 0 : padding);
-        at = copy(at, string.data(), size);
-        next_ = fill(at, ' ', conversion.left_aligned ? padding : 0);
-        return padding + size;
-    }
-
-    void put_long_string(std::string_view string);
-
-    std::FILE *stream_;
-    char *next_ = buffer_;
-    char buffer_[buffer_size + fill_slack];
 };
 
 } // namespace l2fib

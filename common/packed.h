@@ -27,8 +27,8 @@ constexpr FieldRun wide(unsigned width)
 /// Number, it is converted together with its record.
 ///
 /// The producer fills the big-endian word from its most significant bit downwards; the host fills its word from the
-/// least significant bit upwards. Fields keep their values and their order, and are numbered from 0. Where they end
-/// before the word does, the bytes after them are no part of it and stay as received.
+/// least significant bit upwards. Fields keep their values and their order, and are numbered from 0. Bytes of the word
+/// after its last field stay as received.
 template <class Word, FieldRun... runs>
 class Packed
 {
@@ -68,7 +68,7 @@ class Packed
     }
 
 public:
-    /// All of the word, once it is converted.
+    /// The whole word, after conversion.
     [[nodiscard]] constexpr Word word() const { return std::bit_cast<Word>(bytes); }
 
     [[nodiscard]] constexpr Word get(unsigned field) const
@@ -77,7 +77,7 @@ public:
     }
     [[nodiscard]] constexpr bool test(unsigned field) const { return get(field) != 0; }
 
-    /// All at once: a bit for each field, set where the field is not zero.
+    /// All fields at once: a bit for each, set when the field is not zero.
     [[nodiscard]] constexpr std::uint32_t set_flags() const
     {
         std::uint32_t set = 0;
@@ -99,7 +99,7 @@ public:
 
     constexpr void to_host()
     {
-        // Turned round, every field is where the host has it; those of several bits are then the wrong way round.
+        // Reversing all bits puts every field in its place. The bits inside a wide field are then reversed back.
         Word host = bits_reversed(byte_swapped(word()));
         for (const Field field : wide_fields) {
             const auto turned = static_cast<Word>(static_cast<Word>(host >> field.start) & mask(field));
@@ -110,7 +110,7 @@ public:
         std::copy_n(host_bytes.begin(), (used_width + 7) / 8, bytes.begin());
     }
 
-    /// The big-endian bits of a field that holds `value`: how a producer sets it.
+    /// A big-endian word with `value` in one field, as a producer sets it.
     static constexpr Word wire_bits(unsigned field, Word value)
     {
         const unsigned wire_start = word_width - layout[field].width - layout[field].start;
@@ -125,8 +125,8 @@ using FlagWord = Packed<std::uint32_t, runs...>;
 template <FieldRun... runs>
 using FlagByte = Packed<std::uint8_t, runs...>;
 
-/// A flag word of a hardware record. The hardware's documents number its flags by their bit of the big-endian word, 31
-/// as the top bit, and so does this.
+/// A flag word of a hardware record. As in the hardware's documents, its flags are numbered by their bit in the
+/// big-endian word; the top bit is 31.
 template <FieldRun... runs>
 class HardwareFlags : public FlagWord<runs...>
 {

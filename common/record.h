@@ -1,4 +1,4 @@
-// Records of the show data: what their fields are, and how they get from the producer's byte order to the host's.
+// Records of the show data: their fields, and the conversion from the producer's byte order to the host's.
 //
 // A record is a struct of the types of common/number.h and common/packed.h, and lists its fields in their order:
 //
@@ -9,8 +9,8 @@
 //         using Fields = l2fib::Fields<&ObjectCounts::created, &ObjectCounts::bound>;
 //     };
 //
-// In the show data it lies as a Received<ObjectCounts>, which gives no access to its fields until it is converted.
-// Whoever reaches the record there converts it, once; views are handed a const ObjectCounts &.
+// Show data holds it as a Received<ObjectCounts>, which gives no access to its fields until it is converted.
+// The view that finds the record there converts it, once. What prints it gets a const ObjectCounts &.
 #pragma once
 
 #include "common/packed.h"
@@ -24,7 +24,7 @@
 namespace l2fib
 {
 
-/// The fields of a record: each of them, in their order.
+/// All fields of a record, in their order.
 template <auto... members>
 struct Fields {
 };
@@ -38,7 +38,7 @@ concept RecordWithFields = requires
 template <class Record>
 class Received;
 
-namespace record_fields // what the compiler asks of a list of fields
+namespace record_fields // what the compiler checks about a list of fields
 {
 
 template <class Member>
@@ -53,7 +53,7 @@ using Type = typename Of<decltype(member)>::Type;
 template <auto member>
 using Record = typename Of<decltype(member)>::Record;
 
-/// Whether the fields are all of a record's, and none is there twice.
+/// Whether the list has every field of the record, and none twice.
 template <class InRecord, auto... members>
 consteval bool are_complete(Fields<members...> /*list*/)
 {
@@ -67,7 +67,8 @@ consteval bool are_complete(Fields<members...> /*list*/)
     return (sizeof(Type<members>) + ...) == sizeof(InRecord);
 }
 
-/// Whether a type says by itself how it is read, converted or not. Of a record, all fields have to.
+/// Whether a type may be read in show data as it was received: its numbers know their byte order, or it hides them
+/// until they are converted. So may a record of such fields.
 template <class FieldType>
 struct IsReadableAsReceived : std::false_type {
 };
@@ -94,6 +95,7 @@ consteval bool all_are_readable(Fields<members...> /*list*/)
 }
 template <RecordWithFields InRecord>
 struct IsReadableAsReceived<InRecord> : std::bool_constant<all_are_readable(typename InRecord::Fields{})> {
+    static_assert(are_complete<InRecord>(typename InRecord::Fields{}), "a record lists each of its fields");
 };
 
 } // namespace record_fields
@@ -108,8 +110,8 @@ consteval std::string_view field_name()
     return name.substr(name.rfind(':') + 1);
 }
 
-/// Converts neighbouring numbers of 16 bits in place, four at a time. A bridge has two hundred and more: one by one
-/// they cost a tenth of its view.
+/// Converts neighbouring numbers of 16 bits in place, four at a time. A bridge has 272 of them. One by one, they add
+/// 43% to the instructions of its private view.
 template <std::size_t count>
 void convert_halves(U16 (&numbers)[count])
 {
@@ -129,7 +131,7 @@ void convert_halves(U16 (&numbers)[count])
 template <class InRecord, auto... members>
 void convert_fields(InRecord &record, Fields<members...> list);
 
-/// Converts a field in place, of a record or an array all that they have. What is no Number and no packed word stays.
+/// Converts a field in place; of a record or an array, everything in it. Only Numbers and packed words change.
 template <class FieldType>
 void convert_field(FieldType &field)
 {
@@ -156,7 +158,7 @@ void convert_fields(InRecord &record, Fields<members...> /*list*/)
     (convert_field(record.*members), ...);
 }
 
-/// A record as its producer sent it. Its fields come to light when it is converted, in place, or in a copy of it
+/// A record as its producer sent it. Its fields can be read after it has been converted, in place or in a copy
 /// (common/working_copies.h).
 template <class Record>
 class Received
@@ -165,14 +167,14 @@ class Received
     static_assert(record_fields::are_complete<Record>(typename Record::Fields{}), "a record lists each of its fields");
 
 public:
-    /// Converts the record in the caller's buffer, which is done once.
+    /// Converts the record in the caller's buffer. For each record, this may be called once.
     const Record &to_host()
     {
         convert_fields(record_, typename Record::Fields{});
         return record_;
     }
 
-    /// Converts one field of it, for a view that goes no further.
+    /// Converts one field of it, for a view that may need no other.
     template <auto member>
     auto to_host_only()
     {
@@ -180,7 +182,7 @@ public:
         return (record_.*member).value();
     }
 
-    /// The value of a field that decides what the record is; the record stays as it is.
+    /// The value of a field, in host order. The record stays as it is.
     template <auto member>
     [[nodiscard]] auto peek() const
     {
@@ -189,7 +191,7 @@ public:
         return field.value();
     }
 
-    /// The record where an earlier view of the same call has converted it.
+    /// The record, when an earlier view has converted it.
     [[nodiscard]] const Record &converted_before() const { return record_; }
 
     /// The fields in the producer's byte order: for programs that compose show data.

@@ -12,11 +12,12 @@
 namespace l2fib
 {
 
-/// What may be taken out of show data: a type that says of each of its numbers how it is read. A record whose numbers
-/// are converted first comes as a Received one.
+/// What may be taken out of show data: types whose numbers know their byte order. A record that needs conversion is
+/// taken out as a Received record.
 template <class Piece>
 concept ShowDataPiece =
-    alignof(Piece) == 1 && std::is_trivially_copyable_v<Piece> &&record_fields::IsReadableAsReceived<std::remove_const_t<Piece>>::value;
+    alignof(Piece) == 1 &&
+    std::is_trivially_copyable_v<Piece> &&record_fields::IsReadableAsReceived<std::remove_const_t<Piece>>::value;
 
 /// The caller's buffer, or the part of it that begins at some offset.
 class ShowData
@@ -67,14 +68,14 @@ public:
                    : nullptr;
     }
 
-    /// A piece that a caller of the library vouches for, in a buffer whose size nobody compares.
+    /// The piece at an offset, without a check: the caller of the library has promised it.
     template <ShowDataPiece Piece, class Byte>
     [[nodiscard]] static Piece &unchecked(Byte *bytes, std::uint64_t offset = 0)
     {
         return *reinterpret_cast<Piece *>(bytes + offset);
     }
 
-    /// Pieces that a caller of the library vouches for.
+    /// The pieces from an offset on, without a check, likewise.
     template <ShowDataPiece Piece>
     [[nodiscard]] static std::span<Piece> unchecked_array(std::uint8_t *bytes, std::uint64_t offset,
                                                           std::uint32_t count)

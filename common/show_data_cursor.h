@@ -1,4 +1,4 @@
-// Show data whose records follow each other, some of them present and some not.
+// Reads show data whose records follow each other, not all of which need be there.
 #pragma once
 
 #include "common/show_data.h"
@@ -9,13 +9,13 @@
 namespace l2fib
 {
 
-/// Hands out one record after the other. What the show data does not hold whole is not handed out.
+/// Hands out one record after the other, none of which reaches past the end of the show data.
 class ShowDataCursor
 {
 public:
     explicit ShowDataCursor(ShowData data) : data_(data) {}
 
-    /// `count` of them, or none.
+    /// The next `count` records. All of them or none.
     template <ShowDataPiece Piece>
     std::span<Piece> take(std::uint32_t count)
     {
@@ -28,7 +28,7 @@ public:
         return take<Piece>(1).data();
     }
 
-    /// Pieces of several kinds as one piece, one kind behind the other: as many of each as `counts` says.
+    /// Records of several kinds, one kind after the other, as many of each as `counts` says. All of them or none.
     template <ShowDataPiece... Pieces>
     std::tuple<std::span<Pieces>...> take_together(std::convertible_to<std::uint32_t> auto... counts)
     {
@@ -39,7 +39,7 @@ public:
         return {next<Pieces>(offset, static_cast<std::uint32_t>(counts))...};
     }
 
-    /// Where the end of the last one is that was asked for, from the first byte of the show data.
+    /// How much show data the last request needed, from the first byte on.
     [[nodiscard]] std::uint64_t end() const { return end_; }
 
 private:
@@ -62,7 +62,7 @@ private:
 
     ShowData data_;
     std::uint64_t next_ = 0;
-    std::uint64_t begin_ = 0; // of the last one asked for
+    std::uint64_t begin_ = 0; // of the last request
     std::uint64_t end_ = 0;
 };
 

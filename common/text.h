@@ -1,4 +1,4 @@
-// Texts that a formatter makes.
+// Short texts that are made when they are printed.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +7,7 @@
 namespace l2fib
 {
 
-/// A text made for one item of output.
+/// The text of one item.
 struct Text {
     static constexpr std::size_t capacity = 64;
 

@@ -15,7 +15,7 @@ struct ThreeDigits {
     static constexpr std::uint32_t limit = 1000;
 
     char columns[width];
-    std::uint8_t digits; ///< how many are no blanks
+    std::uint8_t digits; ///< how many columns are not blank
 };
 
 inline constexpr auto three_digits = [] {

@@ -6,7 +6,7 @@
 namespace l2fib
 {
 
-/// A record begins so; its value follows: a big-endian number, or a string with its terminator.
+/// The beginning of a record. Its value follows: a big-endian number, or a string with its terminating zero.
 struct TlvHeader {
     U8 type;
     U8 length; // of the whole record
@@ -33,7 +33,7 @@ static Literal verdict_name(std::uint32_t verdict)
     return name_of(names, verdict - ok, "Invalid");
 }
 
-/// A report as far as it is printed: lines of values, each with the last verdict that one of its values carried.
+/// Prints lines of values, and after each line the last verdict that one of its values carried.
 class Report
 {
 public:
@@ -68,7 +68,7 @@ public:
         column_ = 0;
     }
 
-    /// Why the report ends here, on a line of its own. Returns the status.
+    /// Prints on a line of its own why the report ends here. Returns the status.
     template <class... Args>
     std::uint32_t error(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
@@ -89,7 +89,7 @@ private:
     bool line_is_open_ = false;
 };
 
-/// Prints a record of a known type. False when its value does not lie inside it.
+/// Prints a record of a known type. False when the record is too short for its value.
 static bool print_record(Report &report, const TlvHeader &header, ShowData record)
 {
     switch (header.type.value()) {

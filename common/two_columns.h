@@ -1,4 +1,4 @@
-// Values in two columns: how the private view has the fields of a context.
+// Values in two columns, the layout of the private views.
 #pragma once
 
 #include "common/flags.h"
@@ -7,12 +7,12 @@
 namespace l2fib
 {
 
-/// Values go left and right in turn. Their labels carry their own padding, so that they stand in the code as on the
-/// screen.
+/// Values go left and right in turn. The formats carry the padding of their labels, so that the code shows them as the
+/// screen does.
 class TwoColumns
 {
 public:
-    /// `gap` is what lies between the columns, tabs mostly.
+    /// `gap` is printed between the columns: tabs, mostly.
     TwoColumns(Output &out, const Literal &gap) : out_(out), gap_(gap) {}
 
     template <class... Args>

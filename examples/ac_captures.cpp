@@ -90,7 +90,7 @@ static UidbEntry uidb_entry()
     return entry;
 }
 
-/// The AC is a bundle's on the first NP and a plain one on the others, of which the last has no bridge ports.
+/// The AC belongs to a bundle on the first NP, and to no bundle on the others. The last NP has no bridge ports.
 static VplsNpRecord np_record(unsigned np)
 {
     VplsNpRecord record{};

@@ -1,6 +1,6 @@
 #include "examples/sample_lines.h"
 
-#include "client/capture.h"
+#include "client/capture_writer.h"
 
 namespace l2fib
 {

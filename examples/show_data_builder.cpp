@@ -3,7 +3,7 @@
 namespace l2fib
 {
 
-// Not inline: where GCC 12 sees the sizes of several records, it warns of overflows that cannot be.
+// Not inline: where GCC 12 sees the sizes of several records at once, it warns of overflows that cannot happen.
 
 ShowDataBuilder &ShowDataBuilder::add_bytes(const void *bytes, std::size_t size)
 {

@@ -1,4 +1,4 @@
-// Composes show data as the producer does: field by field, each in the byte order that its type has.
+// Composes show data as the producer does, field by field. The type of a field decides its byte order.
 #pragma once
 
 #include "common/record.h"
@@ -26,7 +26,7 @@ void set(AsStored<Integer> &field, std::type_identity_t<Integer> value)
     field.bytes = std::bit_cast<decltype(field.bytes)>(value);
 }
 
-/// A field of a record that is in host order already: as an earlier view left it, or as the line card stored it.
+/// A field of a record in host order: one that an earlier view has converted, or that the line card has stored.
 template <class Integer>
 void set_converted(Number<Integer> &field, std::type_identity_t<Integer> value)
 {
@@ -74,7 +74,7 @@ inline void set_flags(UidbEntry &entry, std::initializer_list<UidbFlag> flags)
     }
 }
 
-/// A record as part of another one.
+/// A record as it is inside another one.
 template <class Record>
 Received<Record> as_sent(const Record &record)
 {

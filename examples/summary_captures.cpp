@@ -1,4 +1,4 @@
-// What the platform keeps count of: objects, events, the hardware tables, the HAL's shared memory.
+// What the platform counts: objects, events, the use of the hardware tables, the HAL's shared memory.
 #include "examples/captures.h"
 #include "examples/show_data_builder.h"
 #include "hw/hal_summary.h"
@@ -28,7 +28,7 @@ std::vector<std::uint8_t> make_state_summary()
     return ShowDataBuilder{}.add(summary).add_zeros(4).bytes();
 }
 
-/// The value of a number as the producer has it.
+/// The value that was set.
 static std::uint64_t sent(const U32 &number)
 {
     return byte_swapped(number.value());

@@ -12,7 +12,7 @@ namespace l2fib
 
 static Call router;
 
-static std::span<const std::uint8_t> behind_call(std::span<const std::uint8_t> input)
+static std::span<const std::uint8_t> after_call(std::span<const std::uint8_t> input)
 {
     return input.subspan(std::min(input.size(), sizeof(Call)));
 }
@@ -24,7 +24,7 @@ static std::uint32_t printable_level(std::uint32_t level)
     return level < enough || level >= std::uint32_t{0} - enough ? level : level % enough;
 }
 
-CallInput::CallInput(std::span<const std::uint8_t> input) : show_data(behind_call(input))
+CallInput::CallInput(std::span<const std::uint8_t> input) : show_data(after_call(input))
 {
     std::memcpy(&call, input.data(), std::min(input.size(), sizeof call));
     data = call.has(Call::without_show_data) ? nullptr : show_data.data();

@@ -11,23 +11,28 @@ namespace l2fib
 struct Call {
     enum Choice : std::uint8_t { without_show_data = 1, context_as_received = 2 };
 
-    U32 objtype;
-    U32 direction;
-    U32 view_flags;
-    U32 level;
+    StoredU32 objtype;
+    StoredU32 direction;
+    StoredU32 view_flags;
+    StoredU32 level;
     U8 function; ///< which one, of a target that calls several
     U8 choices;
 
     // The router's answers.
-    U32 card_type;
-    U64 monotonic_seconds;
-    U64 nanoseconds;
-    U32 ifhandle_status;
+    StoredU32 card_type;
+    AsStored<std::uint64_t> monotonic_seconds;
+    AsStored<std::uint64_t> nanoseconds;
+    StoredU32 ifhandle_status;
     U8 ifhandle_is_virtual;
 
     // Of the target that looks at the amount of text; the others have no use for them.
-    U16 period;   ///< how many bytes at the end of the show data are repeated
-    U8 magnitude; ///< of the size up to which they are
+    StoredU16 period; ///< how many bytes at the end of the show data are repeated
+    U8 magnitude;     ///< of the size up to which they are
+
+    using R = Call;
+    using Fields = l2fib::Fields<&R::objtype, &R::direction, &R::view_flags, &R::level, &R::function, &R::choices,
+                                 &R::card_type, &R::monotonic_seconds, &R::nanoseconds, &R::ifhandle_status,
+                                 &R::ifhandle_is_virtual, &R::period, &R::magnitude>;
 
     [[nodiscard]] bool has(Choice choice) const { return (choices & choice) != 0; }
 };

@@ -1,6 +1,7 @@
 // Proves that any text can be read as a dump in every form, never makes more bytes than were asked for, and that bytes
 // written in plain hex are read as the same bytes.
-#include "client/hex.h"
+#include "client/hex_digits.h"
+#include "client/hex_dump.h"
 #include "fuzz/target.h"
 
 namespace l2fib
@@ -8,12 +9,13 @@ namespace l2fib
 
 static void check(std::string_view text, HexForm form, std::size_t longest)
 {
-    const HexBytes read = read_hex(text, form, longest);
+    const HexBytes read = read_hex_dump(text, form, longest);
     require(read.bytes.size() <= longest, "no more bytes than asked for");
     require(read.error.empty() || read.bytes.empty(), "either bytes or why there are none");
     if (read.error.empty()) {
         const std::string digits = hex_of_bytes(read.bytes);
-        require(read_hex(digits, HexForm::plain, longest).bytes == read.bytes, "what is written is read as the same");
+        require(read_hex_dump(digits, HexForm::plain, longest).bytes == read.bytes,
+                "what is written is read as the same");
     }
 }
 

@@ -10,7 +10,7 @@
 namespace l2fib
 {
 
-/// Bytes in memory of exactly their size, so that the one behind them is nobody's.
+/// Bytes in memory of exactly their size, so that the byte after them is nobody's.
 class ExactCopy
 {
 public:

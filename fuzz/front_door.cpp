@@ -1,11 +1,11 @@
 // Proves that zel_l2fib_print_internal keeps to the show data, whatever it is asked for and whatever the router
 // answers: every object type and codes that are none, every view and direction, any size. The RP's views prove the same
 // when they are called by themselves with the RP context that their callers promise.
+#include "common/entry/rp_door.h"
 #include "fuzz/call.h"
 #include "fuzz/functions.h"
 #include "fuzz/shape.h"
 #include "fuzz/target.h"
-#include "rp/context_end.h"
 #include "zel_l2fib/show.h"
 
 namespace l2fib
@@ -23,9 +23,10 @@ static auto function_of(std::uint8_t number)
 
 static bool keeps_promise(const CallInput &input)
 {
-    const bool is_private = input.call.function % object_functions == private_view;
-    const ShowData data(input.data, input.show_data.size());
-    return data.is_null() || data.size() >= context_end(is_private, input.call.objtype, data);
+    const ViewKind view =
+        input.call.function % object_functions == private_view ? ViewKind::private_context : ViewKind::detail;
+    const ViewRequest request{.objtype = input.call.objtype, .show_data = input.data, .size = input.show_data.size()};
+    return input.data == nullptr || request.size >= context_end(view, request);
 }
 
 } // namespace l2fib

@@ -14,8 +14,8 @@ namespace l2fib
 static void convert_context(std::uint32_t objtype, const ExactCopy &show_data)
 {
     constexpr std::uint8_t no_nps = 0;
-    const bool is_behind_count = objtype == L2FIB_OBJTYPE_AC || objtype == L2FIB_OBJTYPE_BRIDGE;
-    const std::size_t begin = is_behind_count ? offsetof(AcShowData, context) : 0;
+    const bool is_after_count = objtype == L2FIB_OBJTYPE_AC || objtype == L2FIB_OBJTYPE_BRIDGE;
+    const std::size_t begin = is_after_count ? offsetof(AcShowData, context) : 0;
     if (show_data.size() >= begin + zel_l2fib_data_size(objtype, no_nps)) {
         zel_l2fib_rp_obj_endian_xform_ctx(objtype, show_data.data() + begin);
     }

@@ -1,6 +1,6 @@
 // Where the numbers of an input lie that decide what becomes of the rest.
 //
-// Random changes rarely meet them, and so rarely get behind the first check. A mutator that knows them does, and still
+// Random changes rarely meet them, and so rarely get past the first check. A mutator that knows them does, and still
 // makes every other input.
 #pragma once
 
@@ -34,8 +34,8 @@ public:
         Record record; ///< zeros for one that the input ends in
     };
 
-    /// The record behind the last one.
-    template <ShowDataRecord Record>
+    /// The record after the last one.
+    template <ShowDataPiece Record>
     Placed<Record> add()
     {
         Placed<Record> placed{whole_size(), {}};
@@ -46,7 +46,7 @@ public:
         return placed;
     }
 
-    /// Bytes behind the last record that are of no interest.
+    /// Bytes after the last record that are of no interest.
     void skip(std::size_t size) { ends_.push_back(whole_size() + size); }
 
     template <class Number>
@@ -67,11 +67,11 @@ public:
     [[nodiscard]] std::size_t whole_size() const { return ends_.back(); }
 
 private:
-    template <ShowDataRecord Record>
+    template <ShowDataPiece Record>
     [[nodiscard]] const Record *at(std::size_t offset) const
     {
         return offset <= input_.size() && sizeof(Record) <= input_.size() - offset
-                   ? &ShowData::promised<const Record>(input_.data() + offset)
+                   ? &ShowData::unchecked<const Record>(input_.data() + offset)
                    : nullptr;
     }
     void add_field(const Field &field)

@@ -1,5 +1,5 @@
 // Proves that zel_l2fib_print_tlv keeps to its stream, comes to an end, and leaves the cursor inside the stream with
-// what remains behind it.
+// what remains after it.
 #include "fuzz/call.h"
 #include "fuzz/shape.h"
 #include "fuzz/target.h"
@@ -21,9 +21,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         require(status == (whole == 0 ? 0 : L2FIB_SHOW_ERR_ARGS), "bytes without an address are refused");
         return 0;
     }
-    require(cursor == begin + (whole - remaining), "the cursor stands where the rest begins");
+    require(cursor == begin + (whole - remaining), "the cursor is where the rest begins");
     require(status == 0 || status == L2FIB_SHOW_ERR_DATA, "the statuses are those of the interface");
-    require(status == 0 || remaining != 0, "the cursor of an error stands at a record");
+    require(status == 0 || remaining != 0, "the cursor of an error is at a record");
     return 0;
 }
 

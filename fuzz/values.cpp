@@ -21,7 +21,7 @@ static void convert(const ValuesInput &input)
     }
 }
 
-/// The hardware's part of a bridge begins behind what the sizes add up to, so that more NPs never take less.
+/// The hardware's part of a bridge begins after what the sizes add up to, so that more NPs never take less.
 static void measure(const ValuesInput &input)
 {
     const auto np_count = static_cast<std::uint8_t>(input.head.number.value());

@@ -18,9 +18,9 @@ public:
     struct Head {
         U8 objtype;
         U8 capacity; ///< of a text
-        U64 nanoseconds;
-        U32 number;
-        Stored<std::int16_t> words_length;
+        AsStored<std::uint64_t> nanoseconds;
+        StoredU32 number;
+        AsStored<std::int16_t> words_length;
     };
     Head head{};
 

@@ -1,6 +1,6 @@
 // Writes the inputs that the targets start from, made of the sample captures: write-seeds DIRECTORY
-#include "client/capture.h"
-#include "client/hex.h"
+#include "client/capture_writer.h"
+#include "client/hex_digits.h"
 #include "common/show_data.h"
 #include "examples/sample_lines.h"
 #include "examples/show_data_builder.h"
@@ -10,6 +10,7 @@
 #include "rp/names.h"
 #include "zel_l2fib/show.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -49,11 +50,11 @@ static Call call_for(const SampleCapture &sample)
     constexpr std::uint32_t supported_card = 0x1e1000;
     constexpr std::uint64_t uptime = 1'000'000;
     Call call{};
-    set_converted(call.objtype, row_named(objects(), sample.object)->objtype);
-    set_converted(call.direction, row_named(directions(), sample.direction)->number);
-    set_converted(call.view_flags, row_named(views(), sample.view)->number);
-    set_converted(call.card_type, supported_card);
-    set_converted(call.monotonic_seconds, uptime);
+    set(call.objtype, row_named(objects(), sample.object)->objtype);
+    set(call.direction, row_named(directions(), sample.direction)->number);
+    set(call.view_flags, row_named(views(), sample.view)->flags);
+    set(call.card_type, supported_card);
+    set(call.monotonic_seconds, uptime);
     return call;
 }
 
@@ -73,14 +74,20 @@ static std::optional<SummaryFunction> summary_function(std::string_view object)
 }
 
 /// A dump as xxd has it, in lines of 16 bytes.
-static std::string xxd_of(const std::string &digits)
+static std::string xxd_of(const std::vector<std::uint8_t> &bytes)
 {
-    constexpr std::size_t line_digits = 32;
+    constexpr std::size_t line_size = 16;
     std::string text;
-    for (std::size_t at = 0; at < digits.size(); at += line_digits) {
+    for (std::size_t begin = 0; begin < bytes.size(); begin += line_size) {
         std::array<char, sizeof "00000000: "> offset{};
-        std::snprintf(offset.data(), offset.size(), "%08zx: ", at / 2);
-        text += offset.data() + digits.substr(at, line_digits) + "  ................\n";
+        std::snprintf(offset.data(), offset.size(), "%08zx: ", begin);
+        const auto *first = bytes.data() + begin;
+        const std::vector<std::uint8_t> line(first, first + std::min(line_size, bytes.size() - begin));
+        text += offset.data() + hex_of_bytes(line) + "  ";
+        for (const std::uint8_t byte : line) {
+            text += byte >= ' ' && byte <= '~' ? static_cast<char>(byte) : '.';
+        }
+        text += '\n';
     }
     return text;
 }
@@ -91,15 +98,15 @@ static void write_seeds(SeedWriter &seeds, const SampleCapture &sample)
     const std::vector<std::uint8_t> show_data = sample.make();
     Call call = call_for(sample);
     if (const auto function = summary_function(sample.object)) {
-        set_converted(call.function, *function);
+        set(call.function, *function);
         seeds.write("summaries", name, call, show_data);
     }
     seeds.write("front-door", name, call, show_data);
     Call long_call = call;
-    set_converted(long_call.period, 7);
-    set_converted(long_call.function, summary_function(sample.object).value_or(resources));
+    set(long_call.period, 7);
+    set(long_call.function, summary_function(sample.object).value_or(resources));
     seeds.write("text-size", name, long_call, show_data);
-    set_converted(call.function, by_view_flags);
+    set(call.function, by_view_flags);
     seeds.write("hardware", name, call, show_data);
     if (call.view_flags == L2FIB_VIEW_INCONSISTENT) {
         seeds.write("tlv", name, call, show_data);
@@ -108,10 +115,11 @@ static void write_seeds(SeedWriter &seeds, const SampleCapture &sample)
     const std::string line = sample_line(sample);
     seeds.write("capture", name, line);
     seeds.write("lines", name, '\x50' + line + '\n' + line.substr(0, 70) + "\n\n" + line);
-    const std::string digits = hex_of_bytes(show_data);
-    constexpr std::size_t enough = 200;
-    seeds.write("dump", name + "-plain", '\xff' + digits.substr(0, enough));
-    seeds.write("dump", name + "-xxd", '\xff' + xxd_of(digits.substr(0, enough)));
+    constexpr std::size_t enough = 100;
+    const auto size = static_cast<std::ptrdiff_t>(std::min(enough, show_data.size()));
+    const std::vector<std::uint8_t> dumped(show_data.begin(), show_data.begin() + size);
+    seeds.write("dump", name + "-plain", '\xff' + hex_of_bytes(dumped));
+    seeds.write("dump", name + "-xxd", '\xff' + xxd_of(dumped));
 }
 
 /// What makes the library ask its router: an interface that may be virtual, and stamps without the clocks to go with
@@ -121,7 +129,7 @@ static void write_seeds_that_ask(SeedWriter &seeds)
     Capture unbound;
     unbound.object = row_named(objects(), "ac");
     unbound.show_data = make_local_switch_ac();
-    set(ShowData::promised<AcShowData>(unbound.show_data.data()).context.state, state_unbound);
+    set(ShowData::unchecked<AcShowData>(unbound.show_data.data()).context.to_compose().state, state_unbound);
     unbound.router.virtual_interfaces = {0};
     seeds.write("capture", "unbound-ac", format_capture(unbound));
 
@@ -150,6 +158,11 @@ int main(int argc, char **argv)
                 "*\n"
                 "00000020  41 42 43  |ABC|\n"
                 "00000023\n");
+    seeds.write("dump", "od",
+                "\xff"
+                "000000 61 7c 3e 00  >a|>.<\n"
+                "*\n"
+                "00000c\n");
     seeds.write("capture", "alike",
                 R"({"show_data": "00", "object": "mac"})"
                 "\n"

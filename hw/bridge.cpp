@@ -21,8 +21,8 @@ namespace l2fib
 
 constexpr Literal bridge_handler = "zel_l2fib_brg_print_handler";
 
-/// Walks through the show data of a bridge, and prints what the HAL and the NPs hold. A step that returns false met the
-/// end of it.
+/// Walks through the show data of a bridge, and prints what the HAL and the NPs hold. A step returns false when the
+/// show data ends before it.
 class BridgeWalk
 {
 public:
@@ -53,13 +53,13 @@ private:
     const BridgeContext *bridge_ = nullptr;
     const BridgeHalContext *hal_ = nullptr;
     std::span<const BridgeHalNpEntry> hal_nps_;
-    const BridgeFeatureBlock1 *feature_block_1_ = nullptr;           // there for every flag that asks for it
-    std::span<Received<BridgeFeatureBlock1Np>> feature_block_1_nps_; // likewise, and converted with it
+    const BridgeFeatureBlock1 *feature_block_1_ = nullptr;           // there whenever a flag asks for it
+    std::span<Received<BridgeFeatureBlock1Np>> feature_block_1_nps_; // likewise, and converted
     const BridgeMemberCounts *counts_ = nullptr;
     std::uint32_t printed_members_ = 0;
 };
 
-/// Walks through the RP's context, and the HAL's at its end.
+/// Begins with the RP's context and the HAL's at its end.
 std::uint32_t BridgeWalk::print(std::uint32_t direction)
 {
     const auto *parts = cursor_.take<BridgeShowData>();
@@ -67,7 +67,7 @@ std::uint32_t BridgeWalk::print(std::uint32_t direction)
         return cut_short(level_);
     }
     out_.line(level_);
-    const std::uint32_t np_count = parts->np_count.count; // all of it here: a bridge with more NPs is reported
+    const std::uint32_t np_count = parts->np_count.count; // all 16 bits: a count that is too large is reported
     if (!np_count_is_valid(np_count)) {
         print_invalid_np_count(out_, np_count);
         return 0;
@@ -130,7 +130,7 @@ bool BridgeWalk::take_feature_block_1()
     return true;
 }
 
-/// The first NP's storm control stands for all of them.
+/// Of storm control, only what the first NP has is shown.
 std::uint32_t BridgeWalk::print_storm_control_of_bridge()
 {
     const auto [states, received_profiles] =
@@ -184,7 +184,7 @@ void BridgeWalk::print_statistics_pointers(std::uint32_t np)
     }
 }
 
-/// The NP's members, as far as the members of the whole bridge reach.
+/// Prints the NP's members. All NPs together print no more than the whole bridge has.
 bool BridgeWalk::print_members(std::uint32_t np)
 {
     const BridgeHalNpEntry &hal = hal_nps_[np];
@@ -208,7 +208,7 @@ void BridgeWalk::print_next_hop_counts()
     }
 }
 
-/// The first NP's counts stand for all of them.
+/// The first NP's counts decide how many there are.
 bool BridgeWalk::print_pw_over_bvi_members()
 {
     if (!bridge_->bvi_present() && !bridge_->flags.test(BridgeContext::next_hop_has_bvi)) {

@@ -34,7 +34,7 @@ struct BridgeFeatureBlock1Np {
     using Fields = l2fib::Fields<&R::pbb_statistics_pointer, &R::evpn_statistics_pointer, &R::bvi_tcam_index,
                                  &R::pw_over_bvi_members, &R::unread_18>;
 
-    /// Counted in 16 bits, as the producer does.
+    /// The sum has 16 bits, as in the producer.
     [[nodiscard]] std::uint16_t members() const
     {
         return static_cast<std::uint16_t>(pw_over_bvi_members[0] + pw_over_bvi_members[1] + pw_over_bvi_members[2]);

@@ -49,7 +49,7 @@ struct BridgeDomainRecord {
 };
 static_assert(sizeof(BridgeDomainRecord) == 144 && offsetof(BridgeDomainRecord, head_end_ptree_internal_label) == 139);
 
-/// Prints the flags of a bridge domain and what hangs on them alone.
+/// Prints the flags of a bridge domain, and the label that the flag of a P2MP tree announces.
 void print_bridge_domain_flags(Output &out, std::uint32_t level, const BridgeDomainRecord &domain);
 
 /// Prints the values of a bridge domain.

@@ -9,7 +9,7 @@
 namespace l2fib
 {
 
-/// Prints the HAL's context of a bridge and of those of its NPs that have members.
+/// Prints the HAL's context of a bridge, and of each NP that has members.
 void print_bridge_hal_context(Output &out, std::uint32_t level, const BridgeHalContext &bridge,
                               std::span<const BridgeHalNpEntry> nps);
 

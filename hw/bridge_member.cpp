@@ -17,8 +17,8 @@ static constexpr FlagTable member_flags{{
     {23, "Local Rack Table"},
 }};
 
-/// Flags and values share a line, and "None" is followed by the first value without a comma. The values continue
-/// further out than the line, at the column of the member's heading.
+/// Flags and values share a line. After "None", the first value follows without a comma. When the values wrap, they
+/// continue at the column of the member's heading, left of where the line begins.
 static void print_copy(Output &out, std::uint32_t level, int heading_column, const BridgeMemberRecord &member,
                        std::uint32_t irl_shg0_bound_members)
 {

@@ -1,4 +1,4 @@
-// A member of a bridge domain as one NP floods to it. Members are in the show data in two copies.
+// A member of a bridge domain, as one NP floods to it. The show data has two copies of each member.
 #pragma once
 
 #include "common/output.h"
@@ -11,7 +11,8 @@ namespace l2fib
 {
 
 struct BridgeMemberRecord {
-    enum Flag : unsigned { irl_bport = 30, evpn_ole = 29, evpn_label_hash = 27 }; // BportEntry has others
+    // Other flags than those of BportEntry.
+    enum Flag : unsigned { irl_bport = 30, evpn_ole = 29, evpn_label_hash = 27 };
 
     Bytes<4> unread_0;
     HardwareFlags<one_bit(10)> flags; //  4

@@ -6,7 +6,7 @@
 namespace l2fib
 {
 
-/// Follows the NP count, the high-water mark of each NP (U32) and the resource status of each NP (U16).
+/// They follow the NP count, the high-water mark of each NP (BigU32) and the resource status of each NP (BigU16).
 struct HalSummaryTotals {
     BigU16 flags;
     BigU32 load_balance_type;         // 2

@@ -27,7 +27,7 @@ struct MacScan {
 };
 static_assert(sizeof(MacScan) == 200 && offsetof(MacScan, responses) == 140);
 
-/// What has been counted so far; counts of 0 are left out.
+/// Prints the counts that are not 0.
 void print_mac_scan(Output &out, const MacScan &scan);
 
 } // namespace l2fib

@@ -14,7 +14,7 @@ constexpr bool np_count_is_valid(std::uint32_t np_count)
     return np_count >= 1 && np_count <= max_nps;
 }
 
-/// Says on the current line what is wrong with an NP count. Views that meet one show no NP, and do not fail.
+/// Prints on the current line what is wrong with an NP count. The view then shows no NP, but does not fail.
 void print_invalid_np_count(Output &out, std::uint32_t np_count);
 
 /// The NPs that are shown: from first up to, not including, end.

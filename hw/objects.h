@@ -14,8 +14,8 @@ std::uint32_t show_bridge(Output &out, std::uint32_t level, std::uint32_t direct
 std::uint32_t show_mac(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
 std::uint32_t show_resources(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
 
-/// Says that an object's part could not be printed; the line of some is ended, and of others left open. Returns the
-/// status, and says nothing of status 0.
+/// Reports that an object's part could not be printed, unless the status is 0. Returns the status. `line_end` is "\n"
+/// for objects whose report ends its line.
 std::uint32_t report_failure(Output &out, std::uint32_t level, const Literal &view, std::uint32_t objtype,
                              std::uint32_t status, const Literal &line_end = "");
 

@@ -8,7 +8,7 @@
 namespace l2fib
 {
 
-/// One entry is in the block for each NP that is printed, in their order.
+/// The block has an entry for each NP that is printed, in their order.
 static std::uint32_t print_ingress(Output &out, std::uint32_t level, NpRange nps, std::uint32_t xid,
                                    ShowDataCursor &cursor)
 {

@@ -16,7 +16,7 @@ struct PlainAcBlock {
     using Fields = l2fib::Fields<&R::unread_0>;
 };
 
-/// Prints what the NPs hold; `np_count` is as many as the producer has, `block` the hardware's part of the show data.
+/// Prints what the NPs hold. `np_count` is the AC's own NP count, `block` the hardware's part of the show data.
 /// Statuses: 0, L2FIB_SHOW_ERR_DATA.
 std::uint32_t print_plain_ac(Output &out, std::uint32_t level, std::uint32_t direction, const AcContext &ac,
                              std::uint32_t np_count, ShowData block);

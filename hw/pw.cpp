@@ -44,8 +44,8 @@ static std::uint32_t print_point_to_point(Output &out, std::uint32_t level, Show
     return 0;
 }
 
-/// The rest of a path's line: where it leaves the router. Its values continue at the line's indentation, its flags
-/// under the first of them.
+/// Prints where a path leaves the router. When the line wraps before one of the values, it continues at the line's
+/// indentation.
 static void print_path(List &line, const PathDescriptor &path)
 {
     if (!path.flags.test(PathDescriptor::ifhandle_valid)) {
@@ -62,7 +62,7 @@ static void print_paths(Output &out, std::uint32_t level, const Layer3Paths &pat
 {
     List primary{out, level, "Primary L3 path"};
     if (paths.state.flags.test(PathState::unresolved)) {
-        primary.item("Unresolved"); // and without a primary path there is no backup
+        primary.item("Unresolved"); // without a primary path there is no backup
         return;
     }
     print_path(primary, paths.primary);
@@ -75,7 +75,7 @@ static void print_paths(Output &out, std::uint32_t level, const Layer3Paths &pat
     print_path(backup, paths.backup);
 }
 
-/// Prints the ingress part, where there is a whole one, from copies: the show data keeps it as received.
+/// Prints the ingress part if all of it is there. It is read from copies: the show data stays as received.
 static void print_vpls_ingress(Output &out, std::uint32_t level, ShowDataCursor &cursor,
                                WorkingCopies<BridgePortContext> &port, WorkingCopies<StormControlProfile> &profiles,
                                std::uint32_t np_count)
@@ -89,7 +89,7 @@ static void print_vpls_ingress(Output &out, std::uint32_t level, ShowDataCursor 
     print_flooding(out, level, port[0]);
     print_paths(out, level, HostCopy(ingress[0].paths).record());
 
-    for (std::uint32_t np = 0; np < np_count; ++np) { // no line shows these
+    for (std::uint32_t np = 0; np < np_count; ++np) { // no line prints the profiles
         profiles.fill_in(np, received_profiles[np]);
     }
 }

@@ -11,7 +11,7 @@
 namespace l2fib
 {
 
-/// A PW's show data as far as every kind of PW has it.
+/// The beginning of a PW's show data, which is the same for every kind of PW.
 struct PwHardwareShowData {
     PwShowData rp;
     BigU32 np_count; // 304

@@ -68,7 +68,7 @@ static void print_columns(Output &out)
     out.text("    T/Max\n");
 }
 
-/// The sums of the columns, in the widths of the columns.
+/// The sums of a column. Counts wrap at 32 bits, as those that are added do.
 struct ColumnTotal {
     std::uint32_t t_count = 0;
     std::uint32_t f_count = 0;
@@ -96,7 +96,7 @@ static void print_counts(Output &out, const ResourceType &type, const ResourceUs
     }
 }
 
-/// Learned MACs are counted but not programmed.
+/// Learned MACs have no requests to count, only entries.
 static void print_mac_counts(Output &out, std::uint32_t total_macs, U32 maximum)
 {
     out.text("%13s ", "TOTAL MAC");
@@ -120,7 +120,7 @@ static void print_count_totals(Output &out, const ColumnTotal (&totals)[resource
     out.text("\n\n");
 }
 
-/// A time, of which no more than nine characters are shown: "59 m 59 s" without its closing blank.
+/// Prints the first nine characters of a time: "59 m 59 s" loses its closing blank.
 static void print_time(Output &out, std::uint64_t time)
 {
     constexpr std::size_t longest = 9;
@@ -190,13 +190,13 @@ static void print_np(Output &out, std::uint32_t np, const ResourceData &received
     print_time_totals(out, totals);
 }
 
-/// The size to judge by: the one that the producer gives, unless it is right and fewer bytes came.
+/// The size to check: the producer's, unless that one is right and fewer bytes have come.
 static std::uint64_t size_to_judge(std::uint64_t length, std::uint64_t expected, ShowData data)
 {
     return length == expected ? std::min(length, data.size()) : length;
 }
 
-/// `length` is what the producer says of the size of the resource data.
+/// `length` is the size of the resource data by the producer's account.
 static std::uint32_t print_resource_data(Output &out, std::uint32_t level, ShowData data, std::uint64_t length)
 {
     const auto *received_np_count = data.at<const BigU32>(0);
@@ -208,7 +208,7 @@ static std::uint32_t print_resource_data(Output &out, std::uint32_t level, ShowD
     }
     const std::uint64_t expected = sizeof(ResourceData) + sizeof(BigU32) * np_count;
     if (const std::uint64_t size = size_to_judge(length, expected, data); size != expected) {
-        out.line(level, "%s: invalid data size: %d, expecting %d\n", resource_view, // both without the NP count
+        out.line(level, "%s: invalid data size: %d, expecting %d\n", resource_view, // both less the NP count
                  static_cast<std::uint32_t>(size - sizeof(BigU32)),
                  static_cast<std::uint32_t>(expected - sizeof(BigU32)));
         return L2FIB_SHOW_ERR_DATA;

@@ -36,15 +36,15 @@ struct ResourceUse {
 };
 static_assert(sizeof(ResourceUse) == 112 && offsetof(ResourceUse, in_use) == 96);
 
-/// The slots of all NPs are carried, whether or not the card has as many. The number of MACs (U32) follows for each NP
-/// that it has.
+/// There are slots for eight NPs, even when the card has fewer. The number of MACs (BigU32) follows for each NP that it
+/// has.
 struct ResourceData {
     BigU32 np_count;
     Received<ResourceUse> uses[resource_types][max_nps]; //     4
     Received<MacScan> mac_scans[max_nps];                // 11652
 
     using R = ResourceData;
-    using Fields = l2fib::Fields<&R::np_count, &R::mac_scans>;
+    using Fields = l2fib::Fields<&R::np_count, &R::uses, &R::mac_scans>;
 };
 static_assert(sizeof(ResourceData) == 13252 && offsetof(ResourceData, mac_scans) == 11652);
 

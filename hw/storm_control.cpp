@@ -27,7 +27,7 @@ static void print_configuration(Output &out, std::uint32_t level, const StormCon
         if (limit.enabled) {
             out.text("%d %s", limit.rate, config.kbps ? "kbps," : "pps,");
         } else {
-            // Only a rate ends the line with a comma.
+            // Only a rate is followed by a comma at the end of the line.
             out.text("%s", type + 1 < storm_traffic_types ? "Disabled," : "Disabled");
         }
     }

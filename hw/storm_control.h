@@ -1,4 +1,4 @@
-// Storm control of an AC and of a bridge: how it is configured, and what came of it on an NP.
+// Storm control of an AC and of a bridge: how it is configured, and what an NP has made of it.
 #pragma once
 
 #include "common/output.h"
@@ -29,9 +29,6 @@ struct StormControlConfig {
         std::int32_t rate;
     };
     Limit limits[storm_traffic_types];
-
-    using R = StormControlConfig;
-    using Fields = l2fib::Fields<&R::limits>;
     bool kbps; // the unit of the rates; packets per second otherwise
 
     [[nodiscard]] bool any_enabled() const
@@ -44,7 +41,7 @@ struct StormControlConfig {
 StormControlConfig storm_control_config(const FeatureFlags &features, const std::int32_t (&rates)[storm_traffic_types],
                                         bool kbps);
 
-/// Whether an NP has applied storm control at all: the state for broadcast tells.
+/// Whether an NP has applied storm control. The state for broadcast decides.
 bool has_storm_control(const StormControlState &state);
 
 /// Prints the configuration and the table of what an NP made of it.

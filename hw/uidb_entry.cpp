@@ -11,7 +11,7 @@
 namespace l2fib
 {
 
-/// When a direction lists a flag: always, or by the state of the group selector, or never.
+/// When a direction lists a flag: always, only when the group selector is set, only when it is clear, or never.
 enum Group : std::uint8_t { base, set, clear, never };
 
 struct UidbFlagItem {
@@ -19,7 +19,7 @@ struct UidbFlagItem {
     Literal text;
     Group ingress;
     Group egress;
-    Literal text_when_clear = nullptr; // printed in place of the text, so that the item always stands
+    Literal text_when_clear = nullptr; // printed instead when the bit is clear
 };
 
 // In print order within each group. Two flags share the text "VPWS Remote Rack".
@@ -128,7 +128,7 @@ static constexpr UidbFlagItem uidb_flags[] = {
     {{118, 0x10}, "VPWS Remote Rack", base, never},
 };
 
-/// Flags in their order, each named once, and with a text.
+/// Whether the flags are in the order of their bits, each named once and with a text.
 static consteval bool is_well_formed()
 {
     unsigned last = 0;
@@ -144,7 +144,7 @@ static consteval bool is_well_formed()
 }
 static_assert(is_well_formed());
 
-/// The flags that a direction lists in one group, picked when the code is compiled.
+/// The flags that a direction lists in one group. The compiler picks them.
 template <Group UidbFlagItem::*direction, Group group>
 static constexpr auto listed_flags = [] {
     constexpr auto is_listed = [](const UidbFlagItem &item) { return item.*direction == group; };
@@ -230,7 +230,7 @@ static void print_destination_line(Output &out, std::uint32_t level, const UidbE
     }
 }
 
-// Labels differ between the directions in a capital here and there: "Stats Ptr" and "Stats ptr".
+// Some labels differ between the directions by a capital: "Stats Ptr" and "Stats ptr".
 
 static void print_ingress_lines(Output &out, std::uint32_t level, const UidbEntry &entry)
 {
@@ -325,7 +325,7 @@ void show_uidb_entry(Output &out, std::uint32_t level, std::uint32_t direction, 
     const bool ingress = direction == L2FIB_INGRESS;
     const std::uint32_t status = entry.to_host_only<&UidbEntry::retrieval_status>();
     if (status == 0) {
-        print_uidb_entry(out, level, ingress, entry.to_host()); // a status of 0 may be converted again
+        print_uidb_entry(out, level, ingress, entry.to_host()); // 0 may be converted twice
     } else if (ingress || service != 0) {
         out.line(level, "ERROR: Failed to retrieve UIDB: %s", status_text(status));
     }

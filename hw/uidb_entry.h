@@ -31,7 +31,7 @@ struct UidbEntry {
     static constexpr UidbFlag vpws_dest_pw{118, 0x40};
     static constexpr UidbFlag bng_vpws_pw_l2tp{118, 0x20};
 
-    U32 retrieval_status;   //   0  with which the NP's entry could not be read, or 0
+    U32 retrieval_status;   //   0  0, or why the NP's entry could not be read
     U32 bvi_source_xid;     //   4
     U32 l2tp_session;       //   8
     U32 statistics_pointer; //  12
@@ -93,8 +93,8 @@ struct UidbEntry {
 };
 static_assert(sizeof(UidbEntry) == 120 && offsetof(UidbEntry, mac) == 99 && offsetof(UidbEntry, flags) == 105);
 
-/// Prints an NP's entry for L2FIB_INGRESS or L2FIB_EGRESS. `service` is that of the AC: an entry that could not be read
-/// is passed over on the egress side of a service 0.
+/// Prints an NP's entry for L2FIB_INGRESS or L2FIB_EGRESS. `service` is the AC's: on the egress side of service 0,
+/// nothing is said of an entry that could not be read.
 void show_uidb_entry(Output &out, std::uint32_t level, std::uint32_t direction, std::uint32_t service,
                      Received<UidbEntry> &entry);
 

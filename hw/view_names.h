@@ -1,4 +1,4 @@
-// The views of the hardware's side as their messages name them.
+// The names by which messages call the hardware's views.
 #pragma once
 
 #include "common/literal.h"

@@ -11,7 +11,7 @@
 namespace l2fib
 {
 
-/// The record of an NP: a single one serves every NP. None for an NP that has no record.
+/// The record of an NP, null when it has none. A single record serves every NP.
 template <class Record>
 static Record *record_of(std::span<Record> records, std::uint32_t np)
 {
@@ -44,7 +44,7 @@ static void print_np(Output &out, std::uint32_t level, std::uint32_t direction, 
 static std::uint32_t print_egress(Output &out, std::uint32_t level, const AcContext &ac, std::uint32_t np_count,
                                   ShowData block)
 {
-    constexpr std::uint8_t bports_present = 0x01; // of the first byte; the ingress side asks for any bit of the word
+    constexpr std::uint8_t bports_present = 0x01; // in the first byte; on the ingress side any bit of the word counts
     ShowDataCursor cursor{block};
     const auto [head, records] = cursor.take_together<VplsEgressBlock, VplsNpRecord>(1, np_count);
     if (head.empty()) {

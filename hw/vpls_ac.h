@@ -36,7 +36,7 @@ struct VplsIngressNpRecord {
 };
 static_assert(sizeof(VplsIngressNpRecord) == 452);
 
-/// How many NPs the line card's own software has written records for, after the NP count of the AC.
+/// The number of NPs that the line card has written records for. The AC's own NP count may be another.
 struct VplsNpCount {
     U32 count;
 
@@ -62,7 +62,7 @@ struct VplsIngressBlock {
 };
 static_assert(sizeof(VplsIngressBlock) == 2596);
 
-/// Closes the ingress block, after its records.
+/// The end of the ingress block, after its records.
 struct VplsIngressTrailer {
     Bytes<4> unread_0;
 

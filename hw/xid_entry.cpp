@@ -17,7 +17,7 @@ static Literal xid_type_name(std::uint32_t type)
     return name_of(names, type, "Unknown");
 }
 
-// Bit order, but for the flow label.
+// In the order of their bits, except for "Flow Label imposition" and "MSTI enabled".
 static constexpr FlagTable xid_flags{{
     {31, "Unknown unicast flood block"},
     {30, "Multicast flood block"},
@@ -46,7 +46,7 @@ static constexpr FlagTable xid_flags{{
     {5, "MSTI enabled"},
 }};
 
-// The storm-control bits once more, on a line of their own.
+// The storm-control bits are printed once more, on a line of their own.
 static constexpr FlagTable storm_control_flags{{
     {XidEntry::broadcast_storm_control, "Broadcast"},
     {XidEntry::multicast_storm_control, "Multicast"},

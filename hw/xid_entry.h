@@ -24,8 +24,8 @@ struct XidEntry {
     enum Translation : unsigned { ingress_translation = 31, egress_translation = 30, remote_pw = 29 };
 
     U32 vpn_id;
-    U32 virtual_port;                                       //   4  index, as source and as destination alike
-    U32 next_hop_index;                                     //   8  the software's
+    U32 virtual_port;                                       //   4  an index, for source and destination alike
+    U32 next_hop_index;                                     //   8  in the software's table
     HardwareFlags<one_bit(3), wide(5)> translation;         //  12
     HardwareFlags<one_bit(18), wide(2), one_bit(12)> flags; //  16
     Bytes<4> unread_20;

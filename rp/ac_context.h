@@ -81,7 +81,7 @@ struct AcShowData {
     using R = AcShowData;
     using Fields = l2fib::Fields<&R::np_count, &R::context>;
 
-    /// Where the hardware's part begins, that of a VPLS AC with its bridge port.
+    /// Where the hardware's part begins. In show data for the private view, the bridge port of a VPLS AC is there.
     [[nodiscard]] std::uint64_t hardware_offset() const
     {
         return sizeof(AcShowData) + np_entry_size * np_count.low_byte();

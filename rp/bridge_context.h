@@ -41,7 +41,7 @@ struct BridgeHalNpEntry {
     using Fields =
         l2fib::Fields<&R::mac_limit_counter_index, &R::shg_members, &R::irl_shg0_bound_members, &R::unread_12>;
 
-    /// Counted in 16 bits, as the HAL does.
+    /// The sum has 16 bits, as in the HAL.
     [[nodiscard]] std::uint16_t members() const
     {
         return static_cast<std::uint16_t>(shg_members[0] + shg_members[1] + shg_members[2]);
@@ -117,8 +117,8 @@ struct BridgeContext {
 
     [[nodiscard]] bool bvi_present() const { return features.more.test(FeatureFlags::bvi_present); }
 
-    /// Whether the hardware's part carries the statistics pointers, and the indices and counts of BVIs. Three of the
-    /// flags are known for nothing else.
+    /// Whether the hardware's part carries the statistics pointers, and the indices and counts of BVIs. Three of
+    /// these flags have no other known meaning.
     [[nodiscard]] bool has_feature_block_1() const
     {
         return bvi_present() || flags.test(8) || flags.test(pbb_statistics_pointer) || flags.test(12) ||

@@ -22,7 +22,7 @@ struct BridgeMacContext {
 };
 static_assert(sizeof(BridgeMacContext) == 20);
 
-/// Where the address leads to. The detail view converts it after the context.
+/// Where the address leads to.
 struct BridgeMacForwarding {
     U16 unread_0;
     Bytes<2> unread_2;
@@ -32,7 +32,7 @@ struct BridgeMacForwarding {
     using Fields = l2fib::Fields<&R::unread_0, &R::unread_2, &R::xid>;
 };
 
-/// The platform's own fields, which the hardware's view converts.
+/// The platform's own fields. The hardware's view converts them.
 struct BridgeMacPlatform {
     FlagByte<one_bit(1), wide(2), one_bit(1), wide(4)> unread_0;
     Bytes<35> unread_1;

@@ -1,4 +1,4 @@
-// How much show data the RP's views rely on.
+// How much show data the RP's views read.
 #pragma once
 
 #include "common/show_data.h"
@@ -6,7 +6,7 @@
 namespace l2fib
 {
 
-/// Where an RP context ends that is always of the same size.
+/// The end of an RP context whose size is fixed.
 template <ShowDataPiece Part>
 constexpr std::uint64_t end_of(ShowData /*data*/)
 {

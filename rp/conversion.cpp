@@ -1,4 +1,4 @@
-// The conversion of an RP context to host order, for those who read it by themselves.
+// The conversion of an RP context to host order, for callers that read it themselves.
 #include "common/show_data.h"
 #include "rp/ac_context.h"
 #include "rp/bridge_context.h"

@@ -19,7 +19,7 @@ extern const DetailView bridge_detail;
 extern const DetailView bridge_port_detail;
 extern const DetailView bridge_mac_detail;
 
-/// The word that opens an object's first line; what follows it follows without a comma.
+/// Prints the word before an object's first item. No comma follows it.
 inline void print_direction(List &line, std::uint32_t direction)
 {
     line.text("%s ", direction == L2FIB_INGRESS ? "Ingress" : "Egress");

@@ -8,8 +8,8 @@
 namespace l2fib
 {
 
-/// A table in host order, apart from the show data. Its memory at no time holds anything but zeros and what was
-/// received.
+/// A copy of a table, in host order. It is cleared before it is filled, so that it never holds what the stack held
+/// before.
 template <class Table>
 class ClearedCopy
 {
@@ -44,7 +44,7 @@ void print_event_counts(Output &out, const Received<EventCounts> &received)
     out.text("\n");
 }
 
-/// In another order than the counts.
+/// The columns have another order than those of the counts.
 void print_event_times(Output &out, const Received<EventTimes> &received)
 {
     const ClearedCopy times(received);

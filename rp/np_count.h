@@ -1,4 +1,4 @@
-// How many network processors (NPs) the producer has appended something for.
+// The number of network processors (NPs) for which the producer has appended data.
 #pragma once
 
 #include "common/record.h"
@@ -6,14 +6,14 @@
 namespace l2fib
 {
 
-/// Begins the show data of ACs and bridges, and stays big-endian.
+/// The beginning of the show data of ACs and bridges. It stays big-endian.
 struct NpCount {
     BigU16 count;
 
     using R = NpCount;
     using Fields = l2fib::Fields<&R::count>;
 
-    /// What counts in sizes.
+    /// The part of the count by which sizes are calculated.
     [[nodiscard]] std::uint8_t low_byte() const { return static_cast<std::uint8_t>(count); }
 };
 

@@ -6,15 +6,13 @@
 namespace l2fib
 {
 
-/// Rows of each of its tables; some are of kinds that no view shows.
+/// The rows of each of its tables. Some are for kinds that no view shows.
 constexpr unsigned object_kind_rows = 27;
 
 struct ObjectKind {
     unsigned row;
     Literal name;
 
-    using R = ObjectKind;
-    using Fields = l2fib::Fields<&R::name>;
     bool in_state_summary; ///< the event statistics show every kind
 };
 

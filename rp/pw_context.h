@@ -59,7 +59,7 @@ struct PwContext {
 };
 static_assert(sizeof(PwContext) == 228 && offsetof(PwContext, flags) == 216);
 
-/// The platform's own fields, which the hardware's view converts.
+/// The platform's own fields. The hardware's view converts them.
 struct PwPlatform {
     enum LayerFlag : unsigned { layer_invalid = 0 };
 

@@ -19,7 +19,7 @@ struct ObjectCounts {
     using Fields = l2fib::Fields<&R::unread_0, &R::created, &R::bound, &R::unbound, &R::unread_16>;
 };
 
-/// The hardware's part follows, at least a byte of it.
+/// The hardware's part follows, of at least one byte.
 struct StateSummary {
     ObjectCounts kinds[object_kind_rows];
 

@@ -11,7 +11,7 @@ namespace l2fib
 /// The kinds of traffic that storm control limits, in the order of its records.
 constexpr unsigned storm_traffic_types = 3;
 
-/// Of one kind of traffic.
+/// The state for one kind of traffic.
 struct StormControlTraffic {
     enum ProfileField : unsigned { profile_index = 1 };
 

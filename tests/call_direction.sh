@@ -5,7 +5,7 @@ nm=$1
 shift
 for object in "$@"; do
     inside=${object##*l2fib_objects.dir/}
-    inside=${inside#./}
+    inside=${inside#./} # as some versions of CMake write it
     case $inside in
     common/entry/*) room=entry ;;
     *) room=${inside%%/*} ;;

@@ -1,7 +1,7 @@
 // Show data that ends early. The ladder of a sample has a row for all sizes at which the same is said:
 //
 //   SIZES  STATUS  LINES  what follows these first lines of the whole screen, line by line
-#include "client/capture.h"
+#include "client/capture_line.h"
 #include "examples/sample_lines.h"
 #include "tests/support/golden.h"
 #include "tests/support/ladder.h"

@@ -1,5 +1,5 @@
-# Sums what `llvm-cov show -show-branches=count` prints. A branch that several instantiations of a template have counts
-# once, and is reached where one of them reaches it.
+# Sums what `llvm-cov show -show-branches=count` prints. A branch in a template counts once, and is reached when one of
+# the template's instantiations reaches it.
 
 function reach(outcome, count) {
     if (!(outcome in reached)) {

@@ -12,7 +12,7 @@ constexpr std::uint32_t supported_cards = 1;
 /// Whether the card of a node is of the supported family. Each call asks the router once.
 bool card_is_supported(std::uint32_t node_id);
 
-/// The same, and says so on the screen when it is not.
+/// The same, with a message on the screen when it is not.
 bool check_card(Output &out, std::uint32_t node_id);
 
 } // namespace l2fib

@@ -1,4 +1,4 @@
-// The front door: where a show client's request for an object comes in.
+// The front door: the function by which a show client asks for an object.
 #include "common/entry/card.h"
 #include "common/entry/hal_table.h"
 #include "common/entry/rp_door.h"
@@ -8,7 +8,7 @@ namespace l2fib
 
 constexpr Literal front_door = "zel_l2fib_print_internal";
 
-/// Show data that ends inside the RP context stops here; the views trust their callers with that much.
+/// Refuses show data that ends inside the RP context. The RP's views do not check that: their callers promise it.
 static std::uint32_t show_checked(Output &out, ViewKind view, const ViewRequest &request)
 {
     const ShowData data = request.data();

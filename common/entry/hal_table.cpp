@@ -25,9 +25,9 @@ std::uint32_t hand_over(Output &out, std::uint32_t level, const ViewRequest &req
         return 0;
     }
     if (object_print == zel_l2fib_trident_print_internal) {
-        return show_hardware(out, level, request); // without a detour over stdio
+        return show_hardware(out, level, request); // on the Output of this call
     }
-    out.flush(); // it may print by itself
+    out.flush(); // a view of the router's own prints to stdio itself
     return object_print(level, request.objtype, request.node_id, request.direction, request.view_flags,
                         request.show_data, request.size);
 }

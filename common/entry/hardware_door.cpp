@@ -1,4 +1,4 @@
-// The way of a request through the hardware's views.
+// Chooses the hardware's view for a request.
 #include "common/entry/hardware_door.h"
 
 #include "common/entry/card.h"
@@ -13,7 +13,7 @@ namespace l2fib
 
 using HardwareView = std::uint32_t (*)(Output &out, std::uint32_t level, std::uint32_t direction, ShowData data);
 
-/// The RP's context is all there is.
+/// For objects that are shown by the RP's context alone.
 static std::uint32_t show_nothing(Output & /*out*/, std::uint32_t /*level*/, std::uint32_t /*direction*/,
                                   ShowData /*data*/)
 {
@@ -26,7 +26,7 @@ struct HardwareObject {
     HardwareView private_context;
 };
 
-/// A view that is left out is none of the object's.
+/// Null where an object has no such view: a request for it is reported as a wrong object type.
 static constexpr HardwareObject hardware_objects[] = {
     {L2FIB_OBJTYPE_AC, show_ac, show_nothing},         {L2FIB_OBJTYPE_MPLS, show_pw, show_nothing},
     {L2FIB_OBJTYPE_NHOP, show_nothing, nullptr},       {L2FIB_OBJTYPE_RSRC_MON, nullptr, show_resources},
@@ -97,7 +97,7 @@ uint32_t zel_l2fib_trident_print_internal(uint32_t level, uint32_t objtype, uint
     return l2fib::show_hardware(out, level, {objtype, node_id, direction, view_flags, show_data, size});
 }
 
-// The views by themselves, which ask nobody for a card: the node stays open.
+// The views by themselves. They do not check the card, so they need no node.
 
 uint32_t zel_l2fib_trident_print_internal_detail(uint32_t level, uint32_t objtype, uint32_t /*card_type*/,
                                                  uint32_t direction, uint32_t view_flags, uint8_t *show_data,

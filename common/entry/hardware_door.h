@@ -1,4 +1,4 @@
-// The hardware's views of an object, on the output of a call that is under way.
+// The hardware's views of an object, for a call that has its Output already.
 #pragma once
 
 #include "common/entry/view_request.h"

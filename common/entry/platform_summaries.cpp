@@ -1,4 +1,4 @@
-// The way of a platform summary: the RP's tables, then what is entered for the hardware's.
+// The platform summaries: the RP's tables, then the hardware's part where the print table has a function for it.
 #include "common/entry/card.h"
 #include "common/entry/hal_table.h"
 #include "common/failure.h"

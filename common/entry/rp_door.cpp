@@ -1,4 +1,4 @@
-// The way of a request through the RP's views: what each object shows there, and the hand-over to the hardware's part.
+// Chooses the RP's view for a request, and hands over to the hardware's afterwards.
 #include "common/entry/rp_door.h"
 
 #include "common/entry/card.h"
@@ -18,12 +18,12 @@ constexpr Literal detail_view = "zel_l2fib_print_internal_detail";
 constexpr Literal private_view = "zel_l2fib_print_internal_private";
 constexpr Literal inconsistency_view = "zel_l2fib_print_internal_inconsistent";
 
-/// One object type. A view that is null has nothing of the RP's to show.
+/// The RP's views of one object type. Null where the RP has nothing to show.
 struct RpObject {
     std::uint32_t objtype;
     const DetailView *detail;
     const PrivateView *private_context;
-    std::uint32_t level; ///< at which the hardware's part is printed
+    std::uint32_t level; ///< the indent level of the hardware's part
 };
 
 static constexpr RpObject rp_objects[] = {
@@ -45,7 +45,7 @@ static const RpObject *rp_object(std::uint32_t objtype)
     return nullptr;
 }
 
-/// The status with which a view ends before it has begun; none when it can begin.
+/// Whether a view has to end before it begins, and with which status.
 static std::optional<std::uint32_t> refusal(Output &out, const Literal &view, const ViewRequest &request)
 {
     if (request.show_data == nullptr) {
@@ -60,7 +60,7 @@ std::uint32_t show_detail(Output &out, const ViewRequest &request)
         return *status;
     }
     if (request.objtype == L2FIB_OBJTYPE_MCAST_LEAF) {
-        return 0; // known, and nothing to show
+        return 0; // a known object with nothing to show
     }
     const RpObject *object = rp_object(request.objtype);
     if (object == nullptr) {
@@ -80,7 +80,7 @@ std::uint32_t show_private(Output &out, const ViewRequest &request)
         return *status;
     }
     const RpObject *object = rp_object(request.objtype);
-    if (object == nullptr || object->private_context == nullptr) { // some are the hardware's alone
+    if (object == nullptr || object->private_context == nullptr) { // some objects have a hardware part only
         out.line(1);
         wrong_objtype(out, private_view, request.objtype);
         return hand_over(out, 1, request);

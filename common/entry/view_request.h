@@ -21,7 +21,7 @@ struct ViewRequest {
 
 enum class ViewKind : std::uint8_t { none, detail, private_context, inconsistency };
 
-/// The view that the flags select: of several the strongest.
+/// The view that the flags select. Of several flags, the strongest one counts.
 constexpr ViewKind selected_view(std::uint32_t view_flags)
 {
     constexpr struct {

@@ -137,7 +137,7 @@ ZEL_L2FIB_EXPORT uint32_t zel_l2fib_print_internal_inconsistent(uint32_t objtype
  * show_data is not changed. hw_arg is handed to the hardware's part unchanged. Size 0 prints nothing.
  */
 
-/* Counts of created, bound and unbound objects of each kind: 540 bytes of counters and at least one byte behind them.
+/* Counts of created, bound and unbound objects of each kind: 540 bytes of counters and at least one byte after them.
  * Statuses: 0, L2FIB_SHOW_ERR_ARGS. */
 ZEL_L2FIB_EXPORT uint32_t zel_l2fib_platform_summary_hw_print_internal(uint32_t node_id, uint32_t hw_arg,
                                                                        uint8_t *show_data, uint64_t size);
@@ -191,7 +191,7 @@ ZEL_L2FIB_EXPORT void zel_l2fib_rp_obj_endian_xform_ctx(uint32_t objtype, uint8_
 ZEL_L2FIB_EXPORT uint8_t zel_l2fib_rp_brg_feat_block_control_flags_en(const uint8_t *context, uint32_t block);
 
 /* Bytes of the RP and platform context of an object type whose show data carries np_count NPs: the hardware part begins
- * behind them. 0 for object types without a fixed context. */
+ * after them. 0 for object types without a fixed context. */
 ZEL_L2FIB_EXPORT uint64_t zel_l2fib_data_size(uint32_t objtype, uint8_t np_count);
 
 /* Bytes of bridge feature block 1 or 2 for a number of NPs; 0 for any other block. */
@@ -209,7 +209,7 @@ ZEL_L2FIB_EXPORT uint32_t zel_l2fib_trident_print_internal(uint32_t level, uint3
                                                            uint32_t direction, uint32_t view_flags, uint8_t *show_data,
                                                            uint64_t size);
 
-/* The views behind zel_l2fib_trident_print_internal; card_type is the row of zel_l2fib_hal_print. Statuses: 0,
+/* The views that are called by zel_l2fib_trident_print_internal; card_type is the row of zel_l2fib_hal_print. Statuses: 0,
  * L2FIB_SHOW_ERR_DATA, L2FIB_SHOW_ERR_ARGS for null show data, L2FIB_SHOW_ERR_NOMEM. */
 ZEL_L2FIB_EXPORT uint32_t zel_l2fib_trident_print_internal_detail(uint32_t level, uint32_t objtype, uint32_t card_type,
                                                                   uint32_t direction, uint32_t view_flags,

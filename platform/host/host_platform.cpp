@@ -1,4 +1,4 @@
-// Stands in for the router on a machine that is none, where saved captures are read.
+// Takes the router's place on other machines, where saved captures are read.
 #include "platform/platform.h"
 #include "zel_l2fib/show.h"
 
@@ -35,6 +35,6 @@ const char *status_text(uint32_t status)
 
 uint32_t ifhandle_is_virtual(uint32_t /*ifhandle*/, uint32_t * /*is_virtual*/)
 {
-    // Nobody knows the router's interfaces here; the caller then shows the object.
+    // The router's interfaces are not known here. The caller then shows the object.
     return L2FIB_SHOW_ERR_ARGS;
 }

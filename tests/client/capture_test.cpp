@@ -1,5 +1,6 @@
 // Captures as lines of JSON, and what shows of the router that they came from.
-#include "client/capture.h"
+#include "client/capture_reader.h"
+#include "client/capture_writer.h"
 #include "tests/support/printed.h"
 
 #include <cstdlib>
@@ -21,8 +22,9 @@ TEST(Capture, LinesKeepEverything)
 
 TEST(Capture, OnlyTheObjectAndItsShowDataAreNeeded)
 {
-    const CaptureLine parsed = parse_capture(
-        R"( {"show_data":"00","comment":{"card":[1,{"node":2}]},"card":1970180,"object":"nhop","node":"0x10"} )");
+    const CaptureLine parsed =
+        parse_capture(R"( {"show_data":"00","remark":{"card":[1,{"node":2,"node":1e400}]},"remark":-1e-5000,"x":)" +
+                      std::string(400, '9') + ",\r\t\"card\":1970180,\"object\":\"nhop\",\"node\":\"0x10\"} ");
     ASSERT_EQ(parsed.error, "");
     EXPECT_EQ(format_capture(parsed.capture),
               R"({"object":"nhop","node":16,"card":"0x1e1004","direction":"ingress","view":"private",)"
@@ -50,6 +52,12 @@ TEST(Capture, BrokenLines)
         {R"({"object":"ac","show_data":"\u0030"})", "show_data: not pairs of hex digits"},
         {R"({"object":"ac","show_data":"*"})", "show_data: not pairs of hex digits"},
         {R"({"show_data":"00"})", "no object"},
+        {R"({"object":"mac","show_data":"00","show_data":"11"})", "show_data: given twice"},
+        {R"({"node":1,"\u006eode":1,"object":"mac","show_data":"00"})", "node: given twice"},
+        {R"({"node":1e400,"object":"mac","show_data":"00"})", "node: a whole number is needed"},
+        {R"({"object":"mac",)"
+         "\t\"a\tb\":1}",
+         "broken JSON at byte 20"},
         {R"({"object":"vlan\n","show_data":"00"})", R"(object: unknown 'vlan\x0a')"},
         {R"({"object":2})", "object: a text is needed"},
         {R"({"object":{"name":"ac"}})", "object: a text is needed"},
@@ -75,29 +83,61 @@ TEST(Capture, BrokenLines)
     }
 }
 
-TEST(Capture, LinesThatDifferInTheirDigitsOnly)
+TEST(Capture, LinesSayAfterOthersWhatTheySayAlone)
 {
-    CaptureParser parser;
-    const auto parsed = [&](const std::string &line) {
-        const CaptureLine &result = parser.parse(line);
-        return result.error.empty() ? format_capture(result.capture) : result.error;
+    const std::string front = R"({"object":"ac","node":1,"virtual_interfaces":["0x9"],"show_data":")";
+    const std::string remark = R"({"object":"mac","remark":")" + std::string(5000, 'x') + R"(","show_data":")";
+    const std::string lines[] = {
+        front + "00\"}",
+        front + "0102fF\"}",
+        front + "abc\"}",
+        front + "\"}",
+        front + "00",
+        front,
+        front + R"(00","remark":"11"})",
+        front + R"(22","remark":"11"})",
+        front + R"(22","show\u005fdata":"11"})",
+        front + R"(00"} {})",
+        front + R"(00","show_data":"11"})",
+        front + R"(00","x":{"show_data":"11"}})",
+        R"({"x":{"show_data":"11"},"object":"mac","show_data":"22"})",
+        R"({"x":{"show_data":"33"},"object":"mac","show_data":"22"})",
+        R"({"x":{"show_data":"33"},"object":"mac"})",
+        R"({"x":"show_data","object":"mac","show_data":"44"})",
+        R"({"x":"\"show_data\":\"55\"","object":"mac","show_data":"44"})",
+        R"({"show_data": "66", "object": "mac"})",
+        R"({"show_data" : "77", "object": "mac"})",
+        R"({"show_data":)",
+        remark + "00\"}",
+        remark + "11\"}",
     };
-    const std::string front = R"({"object":"ac","node":1,"card":"0x1e1000","direction":"egress","view":"detail",)"
-                              R"("time_zone":"UTC0","virtual_interfaces":["0x9"],"show_data":")";
-    for (const std::string digits : {"00", "0102ff", "00", "ab"}) {
-        EXPECT_EQ(parsed(front + digits + "\"}"), front + digits + "\"}");
+    const auto said = [](CaptureLine &read) {
+        if (!read.error.empty()) {
+            return Shown{read.error};
+        }
+        const bool is_empty = read.capture.show_data.empty(); // which is shown as none, whatever came before
+        return is_empty ? shown([&] { return read.capture.show(); }) : Shown{format_capture(read.capture)};
+    };
+    for (const std::string &before : lines) {
+        for (const std::string &line : lines) {
+            CaptureReader reader;
+            reader.read(before);
+            CaptureLine alone = parse_capture(line);
+            EXPECT_EQ(said(reader.read(line)), said(alone)) << before << '\n' << line;
+        }
     }
-    EXPECT_EQ(parsed(front + "abc\"}"), "show_data: not pairs of hex digits");
-    EXPECT_EQ(parsed(front + "\"}"), front + "\"}");
-    parsed(front + "00\"}"); // leaves room behind
-    const Shown empty = shown([&] { return parser.parse(front + "\"}").capture.show(); });
-    EXPECT_EQ(empty, shown([&] { return parse_capture(front + "\"}").capture.show(); }));
+    EXPECT_EQ(CaptureReader().read(lines[0]).capture.show_data, std::vector<std::uint8_t>{0});
+}
 
-    // Of a line whose first digits are another member's, nothing is kept.
-    EXPECT_EQ(parsed(R"({"x":{"show_data":"11"},"object":"mac","show_data":"22"})").find(R"("show_data":"22")"),
-              parsed(R"({"x":{"show_data":"33"},"object":"mac","show_data":"22"})").find(R"("show_data":"22")"));
-    EXPECT_NE(parsed(R"({"x":{"show_data":"33"},"object":"mac","show_data":"22"})").find(R"("show_data":"22")"),
-              std::string::npos);
+TEST(Capture, MoreFramesThanAreKept)
+{
+    CaptureReader reader;
+    for (unsigned node = 0; node < 600; ++node) {
+        const std::string line = R"({"object":"mac","node":)" + std::to_string(node % 400) + R"(,"show_data":"0a"})";
+        const CaptureLine &read = reader.read(line);
+        EXPECT_EQ(read.capture.node, node % 400);
+        EXPECT_EQ(read.capture.show_data, std::vector<std::uint8_t>{10});
+    }
 }
 
 TEST(Capture, TimesAreThoseOfItsRouter)

@@ -49,7 +49,17 @@ expect 2 empty 'l2fib-show: an object is required; see l2fib-show --help' --
 expect 2 empty 'l2fib-show: The following argument was not expected: vlan' -- vlan
 expect 2 empty 'l2fib-show: The following argument was not expected: --loud' -- ac --loud short
 expect 2 empty 'l2fib-show: --ingress excludes --egress' -- ac --ingress --egress short
-expect 2 empty 'l2fib-show: Could not convert: --card = x' -- ac --card x short
+expect 2 empty "l2fib-show: --card: no number: 'x'" -- ac --card x short
+expect 2 empty "l2fib-show: --xid: no number: '1.5'" -- replay --xid 1.5
+expect 2 empty "l2fib-show: --node: number above 4294967295: '4294967296'" -- ac --node 4294967296 short
+expect 2 empty "l2fib-show: --monotonic: no number: '18446744073709551616'" -- \
+    ac --monotonic 18446744073709551616 --wall 1 short
+printf '%s\n' '{"object":"ac","node":10,"card":"0x11","direction":"ingress","view":"detail","monotonic_seconds":7,' \
+    '"wall_seconds":8,"time_zone":"UTC0","virtual_interfaces":["0x9","0xa"],"show_data":"00"}' | paste -sd '\0' >numbers
+printf '\000' >zero
+expect 0 numbers '' -- capture ac --node 010 --card 0x011 --monotonic 07 --wall 0x8 --time-zone UTC0 \
+    --virtual-interface 09 --virtual-interface 0x0a zero
+expect 0 empty '' -- replay --xid 010 --node 0x0a numbers
 
 
 # Captures: what capture writes, replay shows; what is wrong with a line is told, and the rest goes on.
@@ -59,7 +69,7 @@ zone=CET-1CEST,M3.5.0,M10.5.0/3
 expect 0 "$ac" '' -- capture ac --monotonic 1036800 --wall 1763900000 --time-zone $zone --format plain vpls-ac-ingress.hex
 expect 2 empty "l2fib-show: --time-zone: no time zone: '/etc/localtime'" -- ac --time-zone /etc/localtime short
 expect 2 empty 'l2fib-show: --monotonic requires --wall' -- capture ac --monotonic 5 short
-expect 2 empty 'l2fib-show: vpls-ac-ingress.bin: line 1: not pairs of hex digits' -- ac --hex vpls-ac-ingress.bin
+expect 2 empty 'l2fib-show: vpls-ac-ingress.bin: line 1, column 1: not pairs of hex digits' -- ac --hex vpls-ac-ingress.bin
 
 "$show" capture bridge-port --egress --node 9 short >failing
 {
@@ -118,6 +128,12 @@ fails_to_write replay --count "$ac"
 fails_to_write ac "$capture"
 fails_to_write capture ac "$capture"
 fails_to_write --help
+(ulimit -f 1 && "$show" ac "$capture" >limited 2>stderr; echo $? >status)
+if [ "$(cat status)" -ne 2 ] || [ "$(cat stderr)" != 'l2fib-show: standard output: File too large' ]; then
+    echo "a file that may not grow: exit status $(cat status)"
+    cat stderr
+    failures=$((failures + 1))
+fi
 for i in 1 2 3 4 5 6 7 8; do cat "$source/examples/resources.jsonl" "$source/examples/resources.jsonl"; done >many
 ("$show" replay many 2>stderr; echo $? >status) | head -c 1 >/dev/null
 if [ "$(cat status)" -ne 2 ] || [ "$(cat stderr)" != 'l2fib-show: standard output: Broken pipe' ]; then

@@ -2,10 +2,10 @@
 // show-many most-text: prints how much text 4 MiB of show data give at most, by view; fails when it is too much.
 #include "examples/captures.h"
 #include "examples/show_data_builder.h"
-#include "hw/plain_ac.h"
-#include "hw/bridge_domain.h"
 #include "hw/bridge.h"
+#include "hw/bridge_domain.h"
 #include "hw/bridge_member.h"
+#include "hw/plain_ac.h"
 #include "hw/vpls_ac.h"
 #include "hw/xid_entry.h"
 #include "rp/ac_context.h"
@@ -25,12 +25,12 @@ namespace l2fib
 static ShowDataBuilder ac_with_nps(std::uint32_t count)
 {
     AcShowData ac{};
-    set(ac.np_count, static_cast<std::uint16_t>(count));
-    set(ac.context.service, service_vpls);
-    set(ac.context.state, state_bound);
-    set(ac.context.requested_np, UINT32_MAX);
+    set(ac.np_count.count, static_cast<std::uint16_t>(count));
+    set(ac.context.to_compose().service, service_vpls);
+    set(ac.context.to_compose().state, state_bound);
+    set(ac.context.to_compose().requested_np, UINT32_MAX);
     VplsEgressBlock block{};
-    set(block.np_count, count);
+    set(block.np_count.to_compose().count, count);
     ShowDataBuilder builder;
     builder.add(ac).add_zeros(np_entry_size * count).add(block);
     for (std::uint32_t np = 0; np < count; ++np) {
@@ -43,10 +43,10 @@ static ShowDataBuilder ac_with_nps(std::uint32_t count)
 static ShowDataBuilder plain_ac_with_nps(std::uint32_t count)
 {
     AcShowData ac{};
-    set(ac.np_count, static_cast<std::uint16_t>(count));
-    set(ac.context.service, service_local_switch);
-    set(ac.context.state, state_bound);
-    set_converted(ac.context.requested_np, UINT32_MAX);
+    set(ac.np_count.count, static_cast<std::uint16_t>(count));
+    set(ac.context.to_compose().service, service_local_switch);
+    set(ac.context.to_compose().state, state_bound);
+    set(ac.context.to_compose().requested_np, UINT32_MAX);
     XidEntry entry;
     std::memset(&entry, 0xff, sizeof entry);
     set(entry.type, XidEntry::type_pw_control_word);
@@ -62,10 +62,10 @@ static ShowDataBuilder plain_ac_with_nps(std::uint32_t count)
 static ShowDataBuilder bridge_with_members(std::uint32_t count)
 {
     BridgeShowData bridge{};
-    set(bridge.np_count, 1);
-    set(bridge.context.state, state_bound);
+    set(bridge.np_count.count, 1);
+    set(bridge.context.to_compose().state, state_bound);
     BridgeHalNpEntry np{};
-    set_converted(np.shg_members[0], static_cast<std::uint16_t>(count));
+    set(np.shg_members[0], static_cast<std::uint16_t>(count));
     BridgeMemberCounts counts{};
     set(counts.members, static_cast<std::uint16_t>(count));
     ShowDataBuilder builder;

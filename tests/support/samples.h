@@ -1,7 +1,7 @@
 // Tests of each sample capture.
 #pragma once
 
-#include "client/capture.h"
+#include "client/capture_line.h"
 #include "examples/sample_lines.h"
 #include "tests/support/printed.h"
 

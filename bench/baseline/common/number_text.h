@@ -1,4 +1,4 @@
-// Made texts of the baseline: snprintf's.
+// The baseline's texts of numbers, made by snprintf.
 #pragma once
 
 #include "common/format.h"

@@ -1,4 +1,4 @@
-// The output unit that the library's is measured against: each piece of text is a printf of its own.
+// The output unit with which the library's is compared: each piece of text is a printf of its own.
 //
 // The baseline is built with it in place of the library's; the views are the same.
 #pragma once

@@ -1,12 +1,19 @@
-// Captures as lines of JSON.
-#include "client/capture.h"
-#include "client/diagnostics.h"
-#include "client/hex.h"
+#include "client/capture_line.h"
 
-#include <charconv>
-#include <cstring>
+#include "client/diagnostics.h"
+#include "client/hex_digits.h"
+#include "client/whole_number.h"
+
+#include <array>
+#include <cstdint>
+#include <iterator>
 #include <limits>
+#include <map>
 #include <nlohmann/json.hpp>
+#include <optional>
+#include <span>
+#include <utility>
+#include <vector>
 
 namespace l2fib
 {
@@ -19,9 +26,7 @@ struct Draft {
     std::optional<std::uint64_t> monotonic_seconds;
     std::optional<std::uint64_t> wall_seconds;
     bool has_show_data = false;
-    std::optional<std::vector<std::uint8_t>> show_data_apart; ///< read ahead of the members
-    std::string stand_in;                                     ///< what the parser is given in place of their digits
-    std::size_t broken_at = 0;                                ///< the byte at which it is no JSON
+    std::size_t broken_at = 0; ///< the byte at which it is no JSON
     std::string error;
 };
 
@@ -50,8 +55,7 @@ static bool set_row(Draft &draft, const Row *&field, std::span<const Row> table,
 
 static bool set_show_data(Draft &draft, const std::string &text)
 {
-    auto bytes = draft.show_data_apart && text == draft.stand_in ? std::exchange(draft.show_data_apart, std::nullopt)
-                                                                 : bytes_of_hex(text);
+    auto bytes = bytes_of_hex(text);
     if (!bytes) {
         return refuse(draft, "not pairs of hex digits");
     }
@@ -62,8 +66,11 @@ static bool set_show_data(Draft &draft, const std::string &text)
 
 static bool set_time_zone(Draft &draft, const std::string &zone)
 {
+    if (!is_time_zone(zone)) {
+        return refuse(draft, "no time zone: " + spelled_out(zone));
+    }
     draft.capture.router.time_zone = zone;
-    return is_time_zone(zone) || refuse(draft, "no time zone: " + spelled_out(zone));
+    return true;
 }
 
 /// A member of a capture. It has a text or a number; a number may be written as a text, "0x1e1000".
@@ -98,22 +105,28 @@ static constexpr Member members[] = {
     {"show_data", nullptr, set_show_data},
 };
 
-/// The number that a text has, decimal or with 0x.
-static std::optional<std::uint64_t> number_of(std::string_view text)
+/// What the parser makes of a number with a fraction or an exponent, or of one that 64 bits do not hold: nothing, as no
+/// member is one. A double in its place would have the parser refuse the line for 1e400, even where it is passed over.
+class PassedOverNumber
 {
-    const bool is_hex = text.starts_with("0x");
-    text.remove_prefix(is_hex ? 2 : 0);
-    std::uint64_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, is_hex ? 16 : 10);
-    const bool is_whole = error == std::errc{} && end == text.data() + text.size();
-    return is_whole ? std::optional(number) : std::nullopt;
-}
+public:
+    PassedOverNumber(double /*value*/) {}
 
-using Json = nlohmann::ordered_json;
+    /// Where the parser reads it to.
+    operator long double &() { return unread_; }
+    /// By which it sees that the number is not too large.
+    operator long double() const { return 0; }
+
+private:
+    long double unread_ = 0;
+};
+
+using Json =
+    nlohmann::basic_json<std::map, std::vector, std::string, bool, std::int64_t, std::uint64_t, PassedOverNumber>;
 
 /// Takes a capture member by member as the parser meets them, and nothing else: what a file may hold beside captures
 /// takes no memory.
-class CaptureReader : public nlohmann::json_sax<Json>
+class MemberReader : public nlohmann::json_sax<Json>
 {
 public:
     Draft draft;
@@ -138,18 +151,20 @@ public:
         if (member_->take_text != nullptr) {
             return blame(member_->take_text(draft, text));
         }
-        const auto number = number_of(text);
+        const auto number = whole_number(text);
         return blame(number ? member_->take_number(draft, *number) : refuse(draft, "no number: " + spelled_out(text)));
     }
 
     bool key(std::string &name) override
     {
-        if (depth_ == 1) {
-            member_ = nullptr; // of a later version, or somebody's own
-            for (const Member &member : members) {
-                if (name == member.name) {
-                    member_ = &member;
-                }
+        if (depth_ != 1) {
+            return true;
+        }
+        member_ = nullptr; // of a later version, or somebody's own
+        for (std::size_t i = 0; i < std::size(members); ++i) {
+            if (name == members[i].name) {
+                member_ = &members[i];
+                return blame(!std::exchange(is_given_[i], true) || refuse(draft, "given twice"));
             }
         }
         return true;
@@ -200,6 +215,7 @@ private:
     }
 
     unsigned depth_ = 0;
+    std::array<bool, std::size(members)> is_given_{};
     const Member *member_ = nullptr;
 };
 
@@ -217,21 +233,8 @@ static const char *missing(const Draft &draft)
                : "one of monotonic_seconds and wall_seconds without the other";
 }
 
-/// Where the digits of the show data begin on a line, if they are found.
-static std::optional<std::size_t> find_digits(std::string_view line)
-{
-    constexpr std::string_view key = "\"show_data\":";
-    const void *found = memmem(line.data(), line.size(), key.data(), key.size()); // quicker than find
-    if (found == nullptr) {
-        return std::nullopt;
-    }
-    const auto behind_key = static_cast<std::size_t>(static_cast<const char *>(found) - line.data()) + key.size();
-    const std::size_t quote = line.find_first_not_of(' ', behind_key);
-    return quote != std::string_view::npos && line[quote] == '"' ? std::optional(quote + 1) : std::nullopt;
-}
-
 /// What the parser made of a line.
-static CaptureLine finish(CaptureReader &reader, bool is_read)
+static CaptureLine finish(MemberReader &reader, bool is_read)
 {
     Draft &draft = reader.draft;
     if (!is_read) {
@@ -246,118 +249,31 @@ static CaptureLine finish(CaptureReader &reader, bool is_read)
     return {std::move(draft.capture), {}};
 }
 
-/// A line, taken apart at the digits of its show data.
-struct CaptureParser::Parts {
-    std::string_view front;
-    std::string_view digits;
-    std::string_view back;
-};
-
-bool CaptureParser::read_as_known(const Parts &parts)
+/// A line whose tabs between the values are blanks. When the parser meets an error it makes texts, for nobody, of what
+/// it has read: with eight characters for each tab, they would take most of the memory that replay ever needs.
+static std::string without_tabs(std::string_view line)
 {
-    frame_ = parts.front;
-    frame_ += '\n'; // which no line has
-    frame_ += parts.back;
-    const auto found = known_.find(frame_);
-    if (found == known_.end()) {
-        return false;
-    }
-    result_.error.clear();
-    result_.capture = found->second;
-    return append_hex(result_.capture.show_data, parts.digits);
-}
-
-/// Nearly all of a line are its digits, which take no parser: it is given the line without them.
-CaptureLine CaptureParser::read_anew(std::string_view line, const Parts &parts)
-{
-    CaptureReader reader;
-    Draft &draft = reader.draft;
-    draft.show_data_apart = bytes_of_hex(parts.digits);
-    if (!draft.show_data_apart) {
-        return finish(reader, Json::sax_parse(line, &reader));
-    }
-    // Longer than any other text that the line can hold: the digits that were found may be of another member.
-    draft.stand_in.assign(parts.front.size() + parts.back.size(), '*');
-    std::string rest(parts.front);
-    rest += draft.stand_in;
-    rest += parts.back;
-    const bool is_read = Json::sax_parse(rest, &reader);
-    if (draft.broken_at > parts.front.size()) {
-        draft.broken_at += parts.digits.size();
-        draft.broken_at -= draft.stand_in.size();
-    }
-    const bool took_digits = !draft.show_data_apart;
-    CaptureLine parsed = finish(reader, is_read);
-    if (parsed.error.empty() && took_digits) {
-        constexpr std::size_t most_known = 256;
-        if (known_.size() == most_known) {
-            known_.clear();
+    std::string changed(line);
+    bool is_in_string = false;
+    bool is_escaped = false;
+    for (char &c : changed) {
+        if (is_in_string) {
+            is_in_string = c != '"' || is_escaped;
+            is_escaped = c == '\\' && !is_escaped;
+        } else if (c == '\t' || c == '\r') {
+            c = ' ';
+        } else {
+            is_in_string = c == '"';
         }
-        Capture &known = known_[frame_];
-        known = parsed.capture;
-        known.show_data = {};
     }
-    return parsed;
-}
-
-CaptureLine &CaptureParser::parse(std::string_view line)
-{
-    const std::optional<std::size_t> begin = find_digits(line);
-    if (!begin) {
-        CaptureReader reader;
-        const bool is_read = Json::sax_parse(line, &reader);
-        return result_ = finish(reader, is_read);
-    }
-    const std::string_view front = line.substr(0, *begin);
-    const std::string_view behind = line.substr(*begin);
-    // Lines end alike, mostly. Where the digits end before, a '"' is among what is taken for them, and refused.
-    if (behind.ends_with(back_) && read_as_known({front, behind.substr(0, behind.size() - back_.size()), back_})) {
-        return result_;
-    }
-    const std::size_t end = std::min(behind.find('"'), behind.size());
-    back_ = behind.substr(end);
-    const Parts parts{front, behind.substr(0, end), back_};
-    if (!read_as_known(parts)) {
-        result_ = read_anew(line, parts);
-    }
-    return result_;
+    return changed;
 }
 
 CaptureLine parse_capture(std::string_view line)
 {
-    return std::move(CaptureParser{}.parse(line));
-}
-
-std::string format_capture(const Capture &capture)
-{
-    const auto hex = [](std::uint32_t number) {
-        std::array<char, sizeof "0xffffffff"> text{};
-        std::snprintf(text.data(), text.size(), "0x%x", number);
-        return std::string(text.data());
-    };
-    const Router &router = capture.router;
-    Json line;
-    line["object"] = capture.object->name;
-    line["node"] = capture.node;
-    line["card"] = hex(router.card_type);
-    if (capture.object->has_views()) {
-        line["direction"] = capture.direction->name;
-        line["view"] = capture.shown_view()->name;
-    }
-    if (router.clocks) {
-        line["monotonic_seconds"] = router.clocks->monotonic_seconds;
-        line["wall_seconds"] = router.clocks->wall_seconds;
-    }
-    if (router.time_zone) {
-        line["time_zone"] = *router.time_zone;
-    }
-    if (!router.virtual_interfaces.empty()) {
-        for (const std::uint32_t handle : router.virtual_interfaces) {
-            line["virtual_interfaces"].push_back(hex(handle));
-        }
-    }
-    line["show_data"] = hex_of_bytes(capture.show_data);
-    return line.dump();
+    MemberReader reader;
+    const bool is_read = Json::sax_parse(without_tabs(line), &reader);
+    return finish(reader, is_read);
 }
 
 } // namespace l2fib

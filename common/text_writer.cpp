@@ -1,4 +1,4 @@
-#include "common/output.h"
+#include "common/text_writer.h"
 
 #include <algorithm>
 #include <cstring>
@@ -6,14 +6,14 @@
 namespace l2fib
 {
 
-void Output::flush()
+void TextWriter::flush()
 {
     const auto size = static_cast<std::size_t>(next_ - buffer_);
-    std::fwrite(buffer_, 1, size, stream_); // what does not arrive is the stream's to tell its owner
+    std::fwrite(buffer_, 1, size, stream_); // whoever owns the stream looks at its error flag
     next_ = buffer_;
 }
 
-void Output::put_many(char c, std::uint64_t count)
+void TextWriter::put_many(char c, std::uint64_t count)
 {
     while (count != 0) {
         reserve(1);
@@ -24,7 +24,7 @@ void Output::put_many(char c, std::uint64_t count)
     }
 }
 
-void Output::put_long_string(std::string_view string)
+void TextWriter::put_long_string(std::string_view string)
 {
     if (string.size() <= buffer_size) {
         reserve(string.size());
