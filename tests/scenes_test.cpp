@@ -173,7 +173,7 @@ TEST(Scenes, NpsOfAVplsAc)
     };
     std::string text;
     for (const auto &side : sides) {
-        for (const std::uint64_t np_count : {1, 2, 3, 8}) {
+        for (const std::uint64_t np_count : std::initializer_list<std::uint64_t>{1, 2, 3, 8}) {
             Ladder ladder;
             for (std::uint64_t requested = 0; requested <= 11; ++requested) {
                 const Values values = {{"block.np_count.count", np_count}, {"ac.context.requested_np", requested}};
