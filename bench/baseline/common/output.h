@@ -4,6 +4,7 @@
 #pragma once
 
 #include "common/format.h"
+#include "common/recording.h"
 
 #include <algorithm>
 #include <cstdio>
