@@ -1,6 +1,8 @@
 // How long the views take, for each sample and for a mix of a hundred thousand objects: the library, the same views
 // with every piece of text through printf (the baseline), and their text, ready, through one fwrite an object (the
-// floor); and how long it takes to read captures.
+// floor); how long the mix takes as JSON; and how long it takes to read captures.
+#include "bench/json_forms.h"
+#include "bench/text_of.h"
 #include "client/capture_reader.h"
 #include "client/input.h"
 #include "examples/sample_lines.h"
@@ -21,17 +23,6 @@
 namespace l2fib
 {
 
-/// The functions by which objects are shown.
-struct Build {
-    decltype(&zel_l2fib_print_internal) object;
-    decltype(&zel_l2fib_platform_summary_hw_print_internal) summary;
-    decltype(&zel_l2fib_platform_msg_counter_hw_print_internal) counters;
-    decltype(&zel_l2fib_trident_print_summary) hal_summary;
-};
-
-static const Build the_library = {zel_l2fib_print_internal, zel_l2fib_platform_summary_hw_print_internal,
-                                  zel_l2fib_platform_msg_counter_hw_print_internal, zel_l2fib_trident_print_summary};
-
 template <class Function>
 static void find(void *library, const char *name, Function &function)
 {
@@ -43,51 +34,31 @@ static void find(void *library, const char *name, Function &function)
     function = reinterpret_cast<Function>(symbol);
 }
 
-static Build load_baseline()
+static Library load_baseline()
 {
     void *library = dlopen(L2FIB_BASELINE, RTLD_NOW | RTLD_LOCAL);
-    Build baseline{};
-    find(library, "zel_l2fib_print_internal", baseline.object);
-    find(library, "zel_l2fib_platform_summary_hw_print_internal", baseline.summary);
-    find(library, "zel_l2fib_platform_msg_counter_hw_print_internal", baseline.counters);
-    find(library, "zel_l2fib_trident_print_summary", baseline.hal_summary);
+    Library baseline{};
+    find(library, "zel_l2fib_print_internal", baseline.print_object);
+    find(library, "zel_l2fib_platform_summary_hw_print_internal", baseline.print_state_summary);
+    find(library, "zel_l2fib_platform_msg_counter_hw_print_internal", baseline.print_event_statistics);
+    find(library, "zel_l2fib_trident_print_summary", baseline.print_hal_summary);
     return baseline;
 }
 
 using Bytes = std::vector<std::uint8_t>;
 
 /// Shows a capture by a copy of its show data, which the view converts in place.
-using Show = void (*)(const Build &library, const Capture &capture, Bytes &scratch);
-
-/// How an object is shown.
-static Show show_of(const Object &object)
+static void show(const Library &library, const Capture &capture, Bytes &scratch)
 {
-    if (object.has_views()) {
-        return [](const Build &library, const Capture &capture, Bytes &scratch) {
-            library.object(capture.object->objtype, capture.node, capture.direction->number,
-                           capture.shown_view()->flags, scratch.data(), scratch.size());
-        };
-    }
-    if (object.name == std::string_view("summary")) {
-        return [](const Build &library, const Capture &capture, Bytes &scratch) {
-            library.summary(capture.node, 0, scratch.data(), scratch.size());
-        };
-    }
-    if (object.name == std::string_view("counters")) {
-        return [](const Build &library, const Capture &capture, Bytes &scratch) {
-            library.counters(capture.node, 0, scratch.data(), scratch.size());
-        };
-    }
-    return [](const Build &library, const Capture & /*capture*/, Bytes &scratch) {
-        library.hal_summary(0, scratch.data(), scratch.size());
-    };
+    const View *view = capture.shown_view();
+    const ViewArguments arguments{capture.node, capture.direction->number, view == nullptr ? 0 : view->flags};
+    capture.object->show(library, *capture.object, arguments, scratch);
 }
 
 /// A sample, ready to be shown in each of the three ways.
 struct Subject {
     std::string name;
     Capture capture;
-    Show show;
     std::string text;
 };
 
@@ -203,6 +174,9 @@ private:
     std::FILE *file_;
 };
 
+// Measured in one way only, and compared with the text of the mix.
+constexpr const char *streaming = "the mix as JSON";
+constexpr const char *dumping = "JSON of trees";
 constexpr const char *reading = "reading captures";
 constexpr std::size_t captures_read = 10'000;
 
@@ -219,11 +193,11 @@ static void measure_reading(benchmark::State &state, const CaptureFile &file)
         }
         state.SetIterationTime(cpu_seconds() - begin);
     }
-    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(captures_read));
+    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * captures_read));
 }
 
 /// Prints a line for each subject when it has been measured in every way: the library, the baseline and the floor, to
-/// /dev/null and then to a pipe. Reading is compared with the line before it.
+/// /dev/null and then to a pipe. What is measured in one way is compared with the last one of them.
 class TableReporter : public benchmark::BenchmarkReporter
 {
 public:
@@ -244,8 +218,9 @@ public:
     {
         const Run &run = runs.front();
         const double ns = 1e9 / run.counters.at("items_per_second");
-        if (run.run_name.function_name == reading) {
-            std::fprintf(out_, "%-18s|%9.0f, %.1f times as long as to print\n", reading, ns, ns / printing_ns_);
+        const std::string &name = run.run_name.function_name;
+        if (name == streaming || name == dumping || name == reading) {
+            std::fprintf(out_, "%-18s|%9.0f, %.1f times as long as to print\n", name.c_str(), ns, ns / printing_ns_);
             return;
         }
         ns_.push_back(ns);
@@ -255,7 +230,7 @@ public:
         if (ns_.size() < 6) {
             return;
         }
-        std::fprintf(out_, "%-18s", run.run_name.function_name.c_str());
+        std::fprintf(out_, "%-18s", name.c_str());
         for (std::size_t sink = 0; sink < 2; ++sink) {
             const double *ways = &ns_[3 * sink];
             std::fprintf(out_, "|%9.0f %6.0f %5.1f %5.1f", ways[0], bytes_per_second_[sink] / 1e6, ways[1] / ways[0],
@@ -275,28 +250,14 @@ private:
     std::vector<double> bytes_per_second_;
 };
 
-/// What a call prints. (glibc lets stdout be another stream for a while.)
-static std::string text_of(const std::function<void()> &call)
-{
-    char *text = nullptr;
-    std::size_t size = 0;
-    std::FILE *screen = std::exchange(stdout, open_memstream(&text, &size));
-    call();
-    std::fclose(std::exchange(stdout, screen));
-    std::string copy(text, size);
-    std::free(text);
-    return copy;
-}
-
 static std::vector<Subject> make_subjects()
 {
     std::vector<Subject> subjects;
     for (const SampleCapture &sample : sample_captures) {
         Capture capture = parse_capture(sample_line(sample)).capture;
-        const Show show = show_of(*capture.object);
         Bytes scratch = capture.show_data;
-        std::string text = text_of([&] { show(the_library, capture, scratch); });
-        Subject subject{sample.name, std::move(capture), show, std::move(text)};
+        std::string text = text_of([&] { show(router_library, capture, scratch); });
+        Subject subject{sample.name, std::move(capture), std::move(text)};
         subjects.push_back(std::move(subject));
     }
     return subjects;
@@ -304,12 +265,12 @@ static std::vector<Subject> make_subjects()
 
 /// Adds the measurements of some subjects in every way, under one name.
 static void add(std::vector<Measurement> &measurements, const std::string &name,
-                const std::vector<const Subject *> &subjects, const Build &baseline)
+                const std::vector<const Subject *> &subjects, const Library &baseline)
 {
     for (const bool is_pipe : {false, true}) {
         const auto add = [&](const auto &print) { measurements.push_back({name, subjects, print, is_pipe}); };
-        add([](const Subject &subject, Bytes &scratch) { subject.show(the_library, subject.capture, scratch); });
-        add([&](const Subject &subject, Bytes &scratch) { subject.show(baseline, subject.capture, scratch); });
+        add([](const Subject &subject, Bytes &scratch) { show(router_library, subject.capture, scratch); });
+        add([&](const Subject &subject, Bytes &scratch) { show(baseline, subject.capture, scratch); });
         add([](const Subject &subject, Bytes &) { std::fwrite(subject.text.data(), 1, subject.text.size(), stdout); });
     }
 }
@@ -317,7 +278,7 @@ static void add(std::vector<Measurement> &measurements, const std::string &name,
 static int run(int argc, char **argv)
 {
     benchmark::Initialize(&argc, argv);
-    const Build baseline = load_baseline();
+    const Library baseline = load_baseline();
     const std::vector<Subject> subjects = make_subjects();
     answer_for(subjects.front().capture.router);
 
@@ -330,6 +291,20 @@ static int run(int argc, char **argv)
         mix.push_back(&subjects[mix.size() % subjects.size()]);
     }
     add(measurements, "100,000 objects", mix, baseline);
+
+    std::vector<JsonForms> forms;
+    for (const Subject &subject : subjects) {
+        forms.emplace_back(subject.capture);
+    }
+    const auto forms_of = [&](const Subject &subject) -> JsonForms & {
+        return forms[static_cast<std::size_t>(&subject - subjects.data())];
+    };
+    Renderer renderer({.json = true});
+    const auto stream = [&](const Subject &subject, Bytes &scratch) { forms_of(subject).stream(renderer, scratch); };
+    const auto dump = [&](const Subject &subject, Bytes &) { forms_of(subject).dump(); };
+    measurements.push_back({streaming, mix, stream, false});
+    measurements.push_back({dumping, mix, dump, false});
+
     for (const Measurement &measurement : measurements) {
         benchmark::RegisterBenchmark(measurement.name.c_str(), [&measurement](benchmark::State &state) {
             measure(state, measurement);
