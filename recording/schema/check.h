@@ -1,0 +1,28 @@
+// Whether lines of JSON are what the published schema says.
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <string>
+#include <string_view>
+
+namespace recording
+{
+
+/// A line of JSON. Throws for what is not valid, and for a key that is empty or twice in an object.
+nlohmann::json parse_line(std::string_view line);
+
+/// The schema that l2fib-show publishes. It is stricter here than as a JSON Schema: a member that it does not know is
+/// one that was added without being published.
+class PublishedSchema
+{
+public:
+    PublishedSchema();
+
+    /// What is wrong with a line, and where; nothing for a line that is as published.
+    [[nodiscard]] std::string violation(const nlohmann::json &line) const;
+
+private:
+    nlohmann::json schema_;
+};
+
+} // namespace recording
