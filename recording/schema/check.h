@@ -4,6 +4,8 @@
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace recording
 {
@@ -22,7 +24,8 @@ public:
     [[nodiscard]] std::string violation(const nlohmann::json &line) const;
 
 private:
-    nlohmann::json schema_;
+    nlohmann::json any_;
+    std::vector<std::pair<nlohmann::json, nlohmann::json>> views_; ///< which lines, and all that they have
 };
 
 } // namespace recording

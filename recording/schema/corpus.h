@@ -34,7 +34,7 @@ std::string text_on(std::FILE *&stream, const std::function<void()> &call);
 std::string line_of(const Capture &capture, const Rendering &rendering = {.json = true},
                     const Origin *origin = nullptr);
 
-/// Has a recorder take down a view, from `converted`, a copy of the capture's show data. Returns its own text.
+/// Has a recorder take down a view, from `converted`, a copy of the capture's show data. Returns the view's own text.
 std::string text_of_recording(const Capture &capture, std::span<std::uint8_t> converted, recording::Recorder &recorder);
 
 } // namespace l2fib

@@ -28,15 +28,18 @@ struct LoggedValue {
 class ValueLog : public NamingRecorder
 {
 public:
-    void begin(std::span<const std::uint8_t> show_data) { begin_view(show_data), values_.clear(); }
+    void begin(std::span<const std::uint8_t> show_data) { begin_view(show_data), values_.clear(), flags_.clear(); }
     [[nodiscard]] const std::vector<LoggedValue> &values() const { return values_; }
+
+    /// The names of flags, in the order of the screen.
+    [[nodiscard]] const std::vector<std::string> &flags() const { return flags_; }
 
     void open_section(const char *key) override { enter_section(key); }
     void open_element(const char *key) override { enter_element(key); }
     void close() override { leave(); }
     void value(const Value &value) override;
     void open_flags(std::span<const Source> words) override;
-    void flag(std::string_view /*name*/) override {}
+    void flag(std::string_view name) override { flags_.emplace_back(name); }
     void unnamed_flags(std::uint32_t /*bits*/) override {}
     void close_flags() override {}
     void open_failure() override { in_failure_ = true; }
@@ -46,6 +49,7 @@ private:
     LoggedValue &add(const Source &source, std::string_view key);
 
     std::vector<LoggedValue> values_;
+    std::vector<std::string> flags_;
     bool in_failure_ = false;
 };
 
