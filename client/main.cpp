@@ -2,6 +2,7 @@
 #include "client/capture_writer.h"
 #include "client/diagnostics.h"
 #include "client/replay.h"
+#include "client/schema.h"
 #include "client/show_data_file.h"
 #include "client/whole_number.h"
 
@@ -273,6 +274,7 @@ static ExitStatus run(int argc, char **argv)
     const CLI::App *capture_command = add_capture_command(app, request);
     ReplayOptions replay_options;
     const CLI::App *replay_command = add_replay_command(app, replay_options, request.rendering);
+    const CLI::App *schema_command = app.add_subcommand("schema", "Print the JSON Schema of what --json prints");
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success &asked) {
@@ -284,6 +286,9 @@ static ExitStatus run(int argc, char **argv)
     }
     if (app.get_subcommands().empty()) {
         return complain("an object is required; see l2fib-show --help");
+    }
+    if (schema_command->parsed()) {
+        return print(std::string(published_schema()));
     }
     if (replay_command->parsed()) {
         replay_options.rendering = rendering_of(request.rendering);

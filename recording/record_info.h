@@ -7,7 +7,7 @@
 namespace l2fib
 {
 
-template <class Piece>
+template <class Piece, bool is_stored = false>
 struct PieceInfo;
 
 namespace record_fields
@@ -45,17 +45,23 @@ struct KindOf<StoredRecord<Record>> {
     static constexpr FieldKind kind = FieldKind::record;
 };
 
-template <class FieldType>
+/// The numbers of a stored record are stored, whatever their type says of records that are sent.
+constexpr FieldKind kind_in_record(FieldKind kind, bool is_stored)
+{
+    return is_stored && kind == FieldKind::number ? FieldKind::stored : kind;
+}
+
+template <class FieldType, bool is_stored = false>
 constexpr const recording::RecordInfo *record_of()
 {
     if constexpr (KindOf<FieldType>::kind == FieldKind::record) {
-        return &PieceInfo<FieldType>::info;
+        return &PieceInfo<FieldType, is_stored>::info;
     } else {
         return nullptr;
     }
 }
 
-template <class FieldType>
+template <class FieldType, bool is_stored>
 constexpr FieldInfo field_info(std::string_view name, std::size_t &offset)
 {
     using One = std::remove_all_extents_t<FieldType>;
@@ -66,18 +72,18 @@ constexpr FieldInfo field_info(std::string_view name, std::size_t &offset)
             sizeof(One),
             sizeof(FieldType) / sizeof(One),
             std::is_array_v<FieldType>,
-            KindOf<One>::kind,
-            record_of<One>()};
+            kind_in_record(KindOf<One>::kind, is_stored),
+            record_of<One, is_stored>()};
 }
 
-template <class List>
+template <class List, bool is_stored>
 struct Table;
-template <auto... members>
-struct Table<Fields<members...>> {
+template <auto... members, bool is_stored>
+struct Table<Fields<members...>, is_stored> {
     static constexpr auto make()
     {
         std::size_t offset = 0;
-        return std::array{field_info<Type<members>>(field_name<members>(), offset)...};
+        return std::array{field_info<Type<members>, is_stored>(field_name<members>(), offset)...};
     }
     static constexpr std::array<FieldInfo, sizeof...(members)> fields = make();
 
@@ -112,17 +118,17 @@ consteval std::string_view record_name()
 } // namespace record_fields
 
 /// Of what lies in show data: a record, received, stored or readable as it is; nothing of single numbers.
-template <class Piece>
+template <class Piece, bool is_stored>
 struct PieceInfo {
     static constexpr recording::RecordInfo info{record_fields::record_name<Piece>(), sizeof(Piece),
-                                                record_fields::Table<typename Piece::Fields>::fields,
-                                                record_fields::Table<typename Piece::Fields>::field_at};
+                                                record_fields::Table<typename Piece::Fields, is_stored>::fields,
+                                                record_fields::Table<typename Piece::Fields, is_stored>::field_at};
 };
 template <class Record>
 struct PieceInfo<Received<Record>> : PieceInfo<Record> {
 };
-template <class Record>
-struct PieceInfo<StoredRecord<Record>> : PieceInfo<Record> {
+template <class Record, bool is_stored>
+struct PieceInfo<StoredRecord<Record>, is_stored> : PieceInfo<Record, true> {
 };
 
 template <class Piece>
