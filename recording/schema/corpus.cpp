@@ -65,21 +65,29 @@ static void change(std::span<std::uint8_t> field, Random &random)
     }
 }
 
+/// A part of the show data.
+struct Part {
+    std::size_t offset;
+    std::size_t size;
+};
+
 /// The fields that the view of a capture comes to, and the bytes between them.
-static std::vector<recording::ByteRun> fields_of(const Capture &capture)
+static std::vector<Part> fields_of(const Capture &capture)
 {
     recording::BytesRecorder bytes;
     std::vector<std::uint8_t> converted = capture.show_data;
     bytes.begin(converted);
     text_of_recording(capture, converted, bytes);
-    return bytes.runs();
+    std::vector<Part> fields;
+    bytes.for_each_run([&](const recording::ByteRun &run) { fields.push_back({run.offset, run.size}); });
+    return fields;
 }
 
-static void change(Capture &capture, const std::vector<recording::ByteRun> &fields, Random &random)
+static void change(Capture &capture, const std::vector<Part> &fields, Random &random)
 {
     const bool many = random() % 4 == 0;
     for (auto changes = many ? fields.size() / 4 : 1 + random() % 6; changes != 0 && !fields.empty(); --changes) {
-        const recording::ByteRun &field = fields[random() % fields.size()];
+        const Part &field = fields[random() % fields.size()];
         change(std::span(capture.show_data).subspan(field.offset, field.size), random);
     }
 }

@@ -137,7 +137,8 @@ TEST(RecordedViews, BytesYieldTheNumbersOfTheirValues)
         std::vector<std::uint8_t> converted = capture.show_data;
         bytes.begin(converted);
         text_of_recording(capture, converted, bytes);
-        const std::vector<recording::ByteRun> runs = bytes.runs();
+        std::vector<recording::ByteRun> runs;
+        bytes.for_each_run([&](const recording::ByteRun &run) { runs.push_back(run); });
         for (const recording::LoggedValue &value : recorded.log.values()) {
             if (!value.place || !value.printed || value.printed->source.is_said) {
                 continue;
