@@ -165,7 +165,7 @@ void JsonWriter::element(std::uint64_t number)
 void JsonWriter::put_number(std::uint64_t number)
 {
     std::array<char, 20> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    const char *const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
     put({digits.data(), static_cast<std::size_t>(end - digits.data())});
 }
 

@@ -23,21 +23,21 @@ public:
     void open_line();
     void close_line();
 
-    void open_object(std::string_view key);
+    void open_object(std::string_view name);
 
     /// Opens an object that is an element of an array. Neighbours of one key are in one array.
-    void open_element(std::string_view key);
+    void open_element(std::string_view name);
     void close_object();
 
-    void open_array(std::string_view key);
+    void open_array(std::string_view name);
     void close_array();
 
-    void member(std::string_view key, std::string_view text);
-    void member(std::string_view key, std::uint64_t number);
-    void member(std::string_view key, bool truth);
+    void member(std::string_view name, std::string_view text);
+    void member(std::string_view name, std::uint64_t number);
+    void member(std::string_view name, bool truth);
 
     /// A value that is JSON already.
-    void json_member(std::string_view key, std::string_view json);
+    void json_member(std::string_view name, std::string_view json);
 
     /// A text in the array that is open.
     void element(std::string_view text);

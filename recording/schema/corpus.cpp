@@ -57,7 +57,7 @@ static void change(std::span<std::uint8_t> field, Random &random)
     case 0:
     case 1:
         std::fill(field.begin(), field.end(), std::uint8_t{0});
-        least = random() % 2 == 0 ? any_byte() % 12 : static_cast<std::uint8_t>(1U << random() % 8);
+        least = static_cast<std::uint8_t>(random() % 2 == 0 ? any_byte() % 12U : 1U << random() % 8);
         break;
     case 2: field[random() % field.size()] ^= static_cast<std::uint8_t>(1U << random() % 8); break;
     case 3: std::fill(field.begin(), field.end(), std::uint8_t{0xff}); break;
