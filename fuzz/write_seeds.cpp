@@ -102,6 +102,7 @@ static void write_seeds(SeedWriter &seeds, const SampleCapture &sample)
         seeds.write("summaries", name, call, show_data);
     }
     seeds.write("front-door", name, call, show_data);
+    seeds.write("recording", name, call, show_data);
     Call long_call = call;
     set(long_call.period, 7);
     set(long_call.function, summary_function(sample.object).value_or(resources));

@@ -65,21 +65,25 @@ static void change(std::span<std::uint8_t> field, Random &random)
     }
 }
 
+void for_each_byte_run(const Capture &capture, const std::function<void(const recording::ByteRun &run)> &take)
+{
+    recording::BytesRecorder bytes;
+    std::vector<std::uint8_t> converted = capture.show_data;
+    bytes.begin(converted);
+    text_of_recording(capture, converted, bytes);
+    bytes.for_each_run(take);
+}
+
 /// A part of the show data.
 struct Part {
     std::size_t offset;
     std::size_t size;
 };
 
-/// The fields that the view of a capture comes to, and the bytes between them.
 static std::vector<Part> fields_of(const Capture &capture)
 {
-    recording::BytesRecorder bytes;
-    std::vector<std::uint8_t> converted = capture.show_data;
-    bytes.begin(converted);
-    text_of_recording(capture, converted, bytes);
     std::vector<Part> fields;
-    bytes.for_each_run([&](const recording::ByteRun &run) { fields.push_back({run.offset, run.size}); });
+    for_each_byte_run(capture, [&](const recording::ByteRun &run) { fields.push_back({run.offset, run.size}); });
     return fields;
 }
 

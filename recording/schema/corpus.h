@@ -37,4 +37,7 @@ std::string line_of(const Capture &capture, const Rendering &rendering = {.json 
 /// Has a recorder take down a view, from `converted`, a copy of the capture's show data. Returns the view's own text.
 std::string text_of_recording(const Capture &capture, std::span<std::uint8_t> converted, recording::Recorder &recorder);
 
+/// Hands out the fields that the view of a capture comes to, and the bytes between them, in their order.
+void for_each_byte_run(const Capture &capture, const std::function<void(const recording::ByteRun &run)> &take);
+
 } // namespace l2fib

@@ -1,8 +1,7 @@
 // What the recording build takes down of the views, and the lines that come of it: for the samples as every object,
 // view and direction, whole, cut short and changed, and for random bytes.
-#include "recording/schema/check.h"
 #include "recording/schema/corpus.h"
-#include "recording/schema/value_log.h"
+#include "recording/schema/faults.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -50,120 +49,26 @@ static void use_all(const UseCapture &use)
     }
 }
 
-/// A view as it was recorded.
-struct Recorded {
-    explicit Recorded(const Capture &capture) : converted(capture.show_data)
-    {
-        log.begin(converted);
-        text = text_of_recording(capture, converted, log);
-    }
-
-    std::vector<std::uint8_t> converted;
-    recording::ValueLog log;
-    std::string text;
-};
-
 TEST(RecordedViews, PrintAndConvertAsTheLibrary)
 {
-    use_all(unless_failed([](const Capture &capture) {
-        const Recorded recorded(capture);
-        Capture shown = capture;
-        ASSERT_EQ(recorded.text, text_on(stdout, [&] { shown.show(); }));
-        ASSERT_EQ(recorded.converted, shown.show_data);
-    }));
-}
-
-/// Where a value ends on a screen, at or after a place: its label, blanks, and its text.
-static std::size_t end_of(const recording::LoggedValue &value, const std::string &screen, std::size_t from)
-{
-    const std::string text(recording::trimmed(value.text));
-    for (std::size_t at = screen.find(value.label, from); at != std::string::npos;
-         at = screen.find(value.label, at + 1)) {
-        const std::size_t begin = screen.find_first_not_of(' ', at + value.label.size());
-        if (begin != std::string::npos && screen.compare(begin, text.size(), text) == 0) {
-            return begin + text.size();
-        }
-    }
-    return std::string::npos;
+    use_all(unless_failed([](const Capture &capture) { ASSERT_EQ(fault_of_text(capture), ""); }));
 }
 
 TEST(RecordedViews, ValuesStandOnTheScreenInTheirOrder)
 {
-    use_whole(unless_failed([](const Capture &capture) {
-        const Recorded recorded(capture);
-        std::size_t place = 0;
-        for (const recording::LoggedValue &value : recorded.log.values()) {
-            if (value.is_on_screen() && !recording::trimmed(value.text).empty()) {
-                place = end_of(value, recorded.text, place);
-                ASSERT_NE(place, std::string::npos) << value.path << ": " << value.label << value.text;
-            }
-        }
-        place = 0;
-        for (const std::string &name : recorded.log.flags()) {
-            place = recorded.text.find(name, place);
-            ASSERT_NE(place, std::string::npos) << name;
-        }
-    }));
-}
-
-/// The number in some bytes; none in bytes that are no number of their own.
-static std::optional<std::uint64_t> number_in(std::span<const std::uint8_t> bytes, const recording::Place &place)
-{
-    const auto kind = place.field == nullptr ? recording::FieldKind::number : place.field->kind;
-    if (kind != recording::FieldKind::number && kind != recording::FieldKind::stored) {
-        return std::nullopt;
-    }
-    std::uint64_t number = 0;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        number = number << 8U | bytes[kind == recording::FieldKind::number ? i : bytes.size() - 1 - i];
-    }
-    return number;
-}
-
-static bool has_value(const std::vector<recording::ByteRun> &runs, const recording::LoggedValue &value)
-{
-    return std::any_of(runs.begin(), runs.end(), [&](const recording::ByteRun &run) {
-        return run.offset == value.place->offset && run.size >= value.printed->source.width &&
-               std::any_of(run.values.begin(), run.values.end(),
-                           [&](const recording::ShownValue &shown) { return shown.path == value.path; });
-    });
+    use_whole(unless_failed([](const Capture &capture) { ASSERT_EQ(fault_of_screen(capture), ""); }));
 }
 
 TEST(RecordedViews, BytesYieldTheNumbersOfTheirValues)
 {
-    use_whole(unless_failed([](const Capture &capture) {
-        const Recorded recorded(capture);
-        recording::BytesRecorder bytes;
-        std::vector<std::uint8_t> converted = capture.show_data;
-        bytes.begin(converted);
-        text_of_recording(capture, converted, bytes);
-        std::vector<recording::ByteRun> runs;
-        bytes.for_each_run([&](const recording::ByteRun &run) { runs.push_back(run); });
-        for (const recording::LoggedValue &value : recorded.log.values()) {
-            if (!value.place || !value.printed || value.printed->source.is_said) {
-                continue;
-            }
-            const recording::Source &source = value.printed->source;
-            ASSERT_TRUE(has_value(runs, value)) << value.path;
-            const auto received = std::span(capture.show_data).subspan(value.place->offset, source.width);
-            const auto number = number_in(received, *value.place);
-            if (source.has_number && !source.is_part && number) {
-                const std::uint64_t mask = ~std::uint64_t{0} >> (64 - 8 * source.width);
-                ASSERT_EQ(source.number & mask, *number) << value.path;
-            }
-        }
-    }));
+    use_whole(unless_failed([](const Capture &capture) { ASSERT_EQ(fault_of_bytes(capture), ""); }));
 }
 
 TEST(RecordedLines, AreAsPublished)
 {
     const recording::PublishedSchema schema;
-    use_all(unless_failed(
-        [&](const Capture &capture) { ASSERT_EQ(schema.violation(recording::parse_line(line_of(capture))), ""); }));
-    use_whole(unless_failed([&](const Capture &capture) {
-        const std::string line = line_of(capture, {.json = true, .bytes = true});
-        ASSERT_EQ(schema.violation(recording::parse_line(line)), "");
-    }));
+    use_all(unless_failed([&](const Capture &capture) { ASSERT_EQ(fault_of_line(capture, as_json, schema), ""); }));
+    use_whole(unless_failed([&](const Capture &capture) { ASSERT_EQ(fault_of_line(capture, as_bytes, schema), ""); }));
 }
 
 /// The check itself: a line of each kind of fault.
