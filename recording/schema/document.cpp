@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <istream>
+#include <tuple>
 
 namespace l2fib
 {
@@ -49,7 +50,10 @@ struct Row {
     std::string fields;
     std::string meaning;
 
-    auto operator<=>(const Row &) const = default;
+    bool operator<(const Row &other) const
+    {
+        return std::tie(path, type, fields, meaning) < std::tie(other.path, other.type, other.fields, other.meaning);
+    }
 };
 
 /// Rows, each with the lines that it is about.
@@ -76,52 +80,59 @@ static std::string type_of(const std::string &key, const std::map<std::string, M
     return type;
 }
 
+using Identities = std::map<std::string, std::set<std::string>>;
+
 /// The rows of the members at a path.
 class Walk
 {
 public:
-    Walk(Rows &rows, Meanings &meanings, std::string where, const ViewLines *view)
-        : rows_(rows), meanings_(meanings), where_(std::move(where)), view_(view)
+    Walk(Rows &rows, Meanings &meanings, std::string where, const Identities &identities)
+        : rows_(rows), meanings_(meanings), where_(std::move(where)), identities_(identities)
     {
     }
 
     void walk(const std::string &path, const Members &members)
     {
         for (const auto &[key, member] : members.members()) {
-            const std::string member_path = path.empty() ? key : path + '.' + key;
+            std::string member_path = path;
+            member_path += path.empty() ? "" : ".";
+            member_path += key;
             if (!is_companion(key, members.members())) {
                 rows_[row(member_path, key, type_of(key, members.members()))].push_back(where_);
             }
-            const bool has_elements = member.elements() != nullptr;
-            walk(member_path + (has_elements ? "[]" : ""), has_elements ? *member.elements() : member);
+            if (const Members *elements = member.elements()) {
+                walk(member_path + "[]", *elements);
+            } else {
+                walk(member_path, member);
+            }
         }
     }
 
 private:
+    [[nodiscard]] std::set<std::string> identities_at(const std::string &path, const std::string &key,
+                                                      const std::string &type) const
+    {
+        const auto known = identities_.find(path);
+        if (known != identities_.end()) {
+            return known->second;
+        }
+        return {key + (type == "object" ? "{}" : type == "array of objects" ? "[]" : "")};
+    }
+
     Row row(const std::string &path, const std::string &key, const std::string &type)
     {
         Row row{path, type, {}, {}};
-        const auto known = view_ == nullptr ? nothing_.end() : view_->identities.find(path);
-        if (meanings_.has(path)) {
-            row.meaning = meanings_.of(path);
-        } else if (view_ == nullptr || known == view_->identities.end()) {
-            row.meaning = meanings_.of(key + (type == "object" ? "{}" : type == "array of objects" ? "[]" : ""));
-        }
-        if (view_ == nullptr || known == view_->identities.end()) {
-            return row;
-        }
         std::set<std::string> meanings;
-        for (const std::string &identity : known->second) {
-            const std::string field = identity.substr(0, identity.find(':'));
-            if (field.find('.') != std::string::npos) {
-                row.fields += (row.fields.empty() ? "`" : ", `") + field + '`';
+        for (const std::string &identity : identities_at(path, key, type)) {
+            if (identity.find('.') != std::string::npos) {
+                row.fields += row.fields.empty() ? "`" : ", `";
+                row.fields += identity.substr(0, identity.find(':')) + '`';
             }
-            if (!meanings_.has(path)) {
-                meanings.insert(meanings_.of(identity));
-            }
+            meanings.insert(meanings_.of(meanings_.has(path) ? path : identity));
         }
         for (const std::string &meaning : meanings) {
-            row.meaning += (row.meaning.empty() ? "" : "; ") + meaning;
+            row.meaning += row.meaning.empty() ? "" : "; ";
+            row.meaning += meaning;
         }
         return row;
     }
@@ -129,20 +140,20 @@ private:
     Rows &rows_;
     Meanings &meanings_;
     std::string where_;
-    const ViewLines *view_;
-    const std::map<std::string, std::set<std::string>> nothing_;
+    const Identities &identities_;
 };
 
 std::string table_of_paths(const Lines &lines, Meanings &meanings)
 {
     Rows rows;
-    Walk(rows, meanings, "objects", nullptr).walk("", lines.objects());
-    Walk(rows, meanings, "`--bytes`", nullptr).walk("", lines.bytes());
-    Walk(rows, meanings, "`--count`", nullptr).walk("", lines.counts());
+    const Identities none;
+    Walk(rows, meanings, "objects", none).walk("", lines.objects());
+    Walk(rows, meanings, "`--bytes`", none).walk("", lines.bytes());
+    Walk(rows, meanings, "`--count`", none).walk("", lines.counts());
     for (const ViewLines &view : lines.views()) {
         for (const char *part : {"rp", "hw"}) {
             if (const auto found = view.members.members().find(part); found != view.members.members().end()) {
-                Walk(rows, meanings, view.name, &view).walk(part, found->second);
+                Walk(rows, meanings, view.name, view.identities).walk(part, found->second);
             }
         }
     }
