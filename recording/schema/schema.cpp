@@ -48,17 +48,19 @@ static void write(std::string &text, const json &value, std::size_t indent, std:
         text += short_form;
         return;
     }
-    const std::string line = "\n" + std::string(indent + 1, ' ');
+    const auto break_line = [&text](std::size_t blanks) { text.append(1, '\n').append(blanks, ' '); };
     text += value.is_object() ? '{' : '[';
     const char *separator = "";
     for (const auto &[key, member] : value.items()) {
-        text += separator + line;
+        text += separator;
+        break_line(indent + 1);
         const std::string name = value.is_object() ? json(key).dump() + ": " : "";
         text += name;
         write(text, member, indent + 1, indent + 1 + name.size());
         separator = ",";
     }
-    text += "\n" + std::string(indent, ' ') + (value.is_object() ? '}' : ']');
+    break_line(indent);
+    text += value.is_object() ? '}' : ']';
 }
 
 std::string json_schema(const Lines &lines)
