@@ -29,7 +29,7 @@ static const RecordInfo *record_of(const ShowDataMap &map, const FieldInfo *fiel
 
 std::string LoggedValue::identity() const
 {
-    const std::string key = path.substr(path.rfind('.') + 1);
+    std::string key = path.substr(path.rfind('.') + 1);
     if (record == nullptr) {
         return key;
     }

@@ -30,9 +30,9 @@ static void use_whole(const UseCapture &use)
         use_on_other_routers(sample, use);
         use_changed(sample, changed, use);
     }
-    std::mt19937 random;
     Capture noise = samples().front();
-    for (const std::size_t size : {10, 100, 1000, 10000}) {
+    for (const unsigned size : {10U, 100U, 1000U, 10000U}) {
+        std::mt19937 random(size);
         noise.show_data.resize(size);
         for (std::uint8_t &byte : noise.show_data) {
             byte = static_cast<std::uint8_t>(random());
