@@ -17,7 +17,7 @@ void JsonRecorder::begin(std::span<const std::uint8_t> show_data, std::span<cons
 
 void JsonRecorder::end()
 {
-    for (const FailureNote &failure : failures_) {
+    for (const FailureNote &failure : failures_.notes()) {
         json_.open_element("failures");
         json_.member("at", std::string_view(failure.at));
         json_.member("text", std::string_view(failure.text));
@@ -104,8 +104,8 @@ void JsonRecorder::number(std::string_view key, const Value &value)
 
 void JsonRecorder::value(const Value &value)
 {
-    if (in_failure_) {
-        note_failure_number(value);
+    if (failures_.is_open()) {
+        failures_.take(value);
         return;
     }
     if (value.source.is_said) {
@@ -172,30 +172,6 @@ void JsonRecorder::close_flags()
         json_.element(static_cast<std::uint64_t>(__builtin_ctz(bits)));
     }
     json_.close_array();
-}
-
-void JsonRecorder::open_failure()
-{
-    in_failure_ = true;
-    failures_.push_back({path(), {}, {}, {}});
-}
-
-/// The sizes that a message has.
-void JsonRecorder::note_failure_number(const Value &value)
-{
-    const std::string_view label = value.label;
-    if (label.ends_with("size is ") || label.ends_with("size: ") || label.ends_with("size wrong ")) {
-        failures_.back().there = value.number;
-    } else if (label.ends_with("expecting at least ") || label.ends_with("expecting ")) {
-        failures_.back().needed = value.number;
-    }
-}
-
-void JsonRecorder::close_failure(std::string_view text)
-{
-    in_failure_ = false;
-    const std::size_t begin = std::min(text.find_first_not_of(" \n"), text.size());
-    failures_.back().text = text.substr(begin, text.find_last_not_of(" \n") + 1 - begin);
 }
 
 } // namespace recording

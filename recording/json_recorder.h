@@ -1,10 +1,13 @@
 // What views print, as JSON.
 #pragma once
 
+#include "recording/failure_notes.h"
 #include "recording/json_writer.h"
 #include "recording/naming_recorder.h"
 
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace recording
 {
@@ -29,27 +32,18 @@ public:
     void flag(std::string_view name) override;
     void unnamed_flags(std::uint32_t bits) override;
     void close_flags() override;
-    void open_failure() override;
-    void close_failure(std::string_view text) override;
+    void open_failure() override { failures_.open(path()); }
+    void close_failure(std::string_view text) override { failures_.close(text); }
 
 private:
-    struct FailureNote {
-        std::string at;
-        std::string text;
-        std::optional<std::uint64_t> there;
-        std::optional<std::uint64_t> needed;
-    };
-
     void number(std::string_view key, const Value &value);
     void companion(std::string_view key, std::string_view suffix, std::string_view json);
-    void note_failure_number(const Value &value);
 
     JsonWriter &json_;
     std::span<const std::uint8_t> received_;
     std::string companion_;
     std::string hex_;
-    std::vector<FailureNote> failures_;
-    bool in_failure_ = false;
+    FailureNotes failures_;
 
     std::vector<Source> flag_words_;
     std::vector<std::string> flag_names_;

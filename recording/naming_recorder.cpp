@@ -41,7 +41,7 @@ void NamingRecorder::enter_section(const char *key)
     scopes_.push_back({key, false, 0});
 }
 
-void NamingRecorder::enter_element(const char *key)
+std::size_t NamingRecorder::enter_element(const char *key)
 {
     Scope &outer = scopes_.back();
     if (outer.last_elements == nullptr || std::strcmp(outer.last_elements, key) != 0) {
@@ -50,6 +50,7 @@ void NamingRecorder::enter_element(const char *key)
     }
     const std::size_t index = outer.elements++;
     scopes_.push_back({key, true, index});
+    return index;
 }
 
 void NamingRecorder::leave()

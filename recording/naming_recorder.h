@@ -34,12 +34,14 @@ protected:
     [[nodiscard]] const ShowDataMap &map() const { return map_; }
     [[nodiscard]] ShowDataMap &map() { return map_; }
 
-    // The names stand until the next one is asked for.
+    // A name is valid until the next one is asked for, and for good when it is lasting.
     [[nodiscard]] std::string_view key_of(const Value &value);
     [[nodiscard]] std::string_view name_of(const Source &source);
 
+    [[nodiscard]] bool is_lasting(std::string_view name) const { return name.data() != name_.data(); }
+
     void enter_section(const char *key);
-    void enter_element(const char *key);
+    std::size_t enter_element(const char *key); ///< returns how many of the key were before
     void leave();
 
     /// Where the view is: "hw.nps[1].xid", or empty.

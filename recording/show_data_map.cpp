@@ -112,7 +112,7 @@ static Place place_in(const RecordInfo &type, std::size_t offset)
     if (field.record != nullptr) {
         return place_in(*field.record, within - index * field.size);
     }
-    return {0, &field, index};
+    return {0, &field, index, &type};
 }
 
 std::optional<Place> ShowDataMap::place_of(const void *address) const

@@ -12,9 +12,13 @@ namespace recording
 
 /// A field where it is in the show data.
 struct Place {
-    std::size_t offset = 0;           ///< from the first byte of the show data
-    const FieldInfo *field = nullptr; ///< null where no record is known
-    std::size_t index = 0;            ///< of an array's element
+    std::size_t offset = 0;             ///< from the first byte of the show data
+    const FieldInfo *field = nullptr;   ///< null where no record is known
+    std::size_t index = 0;              ///< of an array's element
+    const RecordInfo *record = nullptr; ///< that the field is in
+
+    /// Where the record begins.
+    [[nodiscard]] std::size_t record_offset() const { return offset - field->offset - index * field->size; }
 
     /// The field's name, with the index of an element after it.
     [[nodiscard]] std::string name() const;

@@ -3,37 +3,13 @@
 namespace recording
 {
 
-/// The record that has a field of its own, among a record and those within it.
-static const RecordInfo *record_of(const RecordInfo *record, const FieldInfo *wanted)
-{
-    for (const FieldInfo &field : record->fields) {
-        if (&field == wanted) {
-            return record;
-        }
-        if (const RecordInfo *found = field.record == nullptr ? nullptr : record_of(field.record, wanted)) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-static const RecordInfo *record_of(const ShowDataMap &map, const FieldInfo *field)
-{
-    for (const ShowDataMap::Run &run : map.runs()) {
-        if (const RecordInfo *found = record_of(run.type, field)) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
 std::string LoggedValue::identity() const
 {
     std::string key = path.substr(path.rfind('.') + 1);
-    if (record == nullptr) {
+    if (!place || place->record == nullptr) {
         return key;
     }
-    const std::string name = std::string(record->name) + '.' + std::string(place->field->name);
+    const std::string name = std::string(place->record->name) + '.' + std::string(place->field->name);
     const bool has_its_name = key == place->field->name || key == place->name();
     return has_its_name ? name : name + ':' + key;
 }
@@ -41,12 +17,11 @@ std::string LoggedValue::identity() const
 LoggedValue &ValueLog::add(const Source &source, std::string_view key)
 {
     const auto place = source.field == nullptr ? std::nullopt : map().place_of(source.field);
-    const bool is_known = place && place->field != nullptr;
     std::string path = this->path();
     path += path.empty() ? "" : ".";
     path += key;
     return values_.emplace_back(
-        LoggedValue{std::move(path), is_known ? record_of(map(), place->field) : nullptr, place, std::nullopt, {}, {}});
+        LoggedValue{std::move(path), place, std::nullopt, {}, {}});
 }
 
 void ValueLog::value(const Value &value)

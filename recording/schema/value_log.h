@@ -11,7 +11,6 @@ namespace recording
 /// A value that a view has recorded.
 struct LoggedValue {
     std::string path;             ///< of its member in the JSON of the view: "hw.nps[1].xid.vpn_id"
-    const RecordInfo *record;     ///< that it is a field's of; null where none is known
     std::optional<Place> place;   ///< none where it comes from no show data
     std::optional<Value> printed; ///< none of a word of flags
     std::string label;

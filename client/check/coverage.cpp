@@ -1,0 +1,25 @@
+#include "client/check/coverage.h"
+
+namespace l2fib
+{
+
+void Coverage::add(Finding finding, bool is_of_bits)
+{
+    std::vector<std::size_t> odd;
+    for (const Statement &statement : finding.statements) {
+        if (statement.is_odd && statement.bytes) {
+            odd.push_back(statement.bytes->offset);
+        }
+    }
+    const bool is_told = !odd.empty() && std::all_of(odd.begin(), odd.end(), [this](std::size_t offset) {
+        return std::find(offsets_.begin(), offsets_.end(), offset) != offsets_.end();
+    });
+    if (is_of_bits) { // another flag of the same word is another fact
+        findings_.push_back(std::move(finding));
+    } else if (!is_told) {
+        offsets_.insert(offsets_.end(), odd.begin(), odd.end());
+        findings_.push_back(std::move(finding));
+    }
+}
+
+} // namespace l2fib
