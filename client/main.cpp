@@ -31,7 +31,7 @@ struct Request {
     Capture capture;
     std::optional<std::uint64_t> monotonic_seconds;
     std::optional<std::uint64_t> wall_seconds;
-    std::optional<HexForm> hex;
+    ChosenFormat format;
     std::string file;
     RenderingOptions rendering;
 };
@@ -116,11 +116,15 @@ static void add_router(CLI::App &app, Request &request)
 static void add_input(CLI::App &app, Request &request)
 {
     auto *format = add_named<ShowDataFormat>(
-        app, "--format", show_data_formats, [&request](const ShowDataFormat &named) { request.hex = named.hex; },
-        "raw (the default), hex (any of those that follow), plain, xxd or hexdump");
+        app, "--format", show_data_formats,
+        [&request](const ShowDataFormat &named) {
+            request.format = {named.hex, true};
+        },
+        "raw (the default; given, nothing is taken for another format), hex (any of those that follow), plain, xxd or "
+        "hexdump");
     format->type_name("FORMAT");
     app.add_flag_callback(
-           "--hex", [&request] { request.hex = HexForm::any; }, "The same as --format hex")
+           "--hex", [&request] { request.format.hex = HexForm::any; }, "The same as --format hex")
         ->excludes(format);
     app.add_option("FILE", request.file, "Show data; - for standard input")->required()->type_name("");
 }
@@ -212,7 +216,7 @@ static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options, Rende
 /// Reads the show data of a request. False, having said why, when there is none.
 static bool complete(Request &request)
 {
-    ShowDataFile file = read_show_data(request.file, request.hex);
+    ShowDataFile file = read_show_data(request.file, request.format);
     if (!file.error.empty()) {
         complain(file.error);
         return false;

@@ -1,5 +1,6 @@
 #include "client/replay.h"
 
+#include "client/broken_lines.h"
 #include "client/capture_reader.h"
 #include "client/discarded_output.h"
 #include "client/input.h"
@@ -102,6 +103,8 @@ public:
 
 private:
     void read_line(const Input::Line &line, const Place &place);
+    void refuse(const Input::Line &line, const Place &place, const std::string &why);
+    void note_capture();
     void show(Capture &capture, const Place &place);
     std::uint32_t status_of(const Capture &capture);
     void print_heading(const Capture &capture, const Place &place);
@@ -112,12 +115,19 @@ private:
         progress_.clear();
         note(complain(what));
     }
+    void report(const std::vector<std::string> &messages)
+    {
+        for (const std::string &message : messages) {
+            report(message);
+        }
+    }
 
     const ReplayOptions &options_;
     Progress progress_;
     Renderer renderer_;
     CaptureReader reader_;
-    Capture tried_; ///< keeps its memory
+    std::optional<BrokenLines> no_captures_; ///< while the file has none
+    Capture tried_;                          ///< keeps its memory
     Tally tally_;
     bool is_first_ = true;
     ExitStatus exit_status_ = shown;
@@ -127,6 +137,7 @@ void Replay::file(const std::string &path)
 {
     constexpr std::size_t longest_line = 2 * longest_show_data + (std::size_t{64} << 10U);
     Input input(path);
+    no_captures_.emplace();
     for (std::size_t number = 1; std::ferror(stdout) == 0; ++number) {
         const auto line = input.next_line(longest_line);
         if (!line) {
@@ -134,6 +145,12 @@ void Replay::file(const std::string &path)
         }
         read_line(*line, {path, number});
         progress_.step();
+        if (no_captures_ && no_captures_->are_enough()) {
+            break;
+        }
+    }
+    if (no_captures_) {
+        report(no_captures_->verdict(path));
     }
     if (!input.error().empty()) {
         report(input.error());
@@ -143,7 +160,7 @@ void Replay::file(const std::string &path)
 void Replay::read_line(const Input::Line &line, const Place &place)
 {
     if (line.is_too_long) {
-        report(place.text() + ": line too long");
+        refuse(line, place, "line too long");
         return;
     }
     if (line.text.find_first_not_of(" \t\r") == std::string_view::npos) {
@@ -151,9 +168,31 @@ void Replay::read_line(const Input::Line &line, const Place &place)
     }
     CaptureLine &parsed = reader_.read(line.text);
     if (!parsed.error.empty()) {
-        report(place.text() + ": " + parsed.error);
-    } else if (options_.selection.fits(parsed.capture)) {
+        refuse(line, place, parsed.error);
+        return;
+    }
+    note_capture();
+    if (options_.selection.fits(parsed.capture)) {
         show(parsed.capture, place);
+    }
+}
+
+void Replay::refuse(const Input::Line &line, const Place &place, const std::string &why)
+{
+    const std::string message = place.text() + ": " + why;
+    if (no_captures_) {
+        no_captures_->add(line.text, message);
+    } else {
+        report(message);
+    }
+}
+
+/// The broken lines before the file's first capture are no more than that.
+void Replay::note_capture()
+{
+    if (no_captures_) {
+        report(no_captures_->messages());
+        no_captures_.reset();
     }
 }
 

@@ -68,7 +68,7 @@ zone=CET-1CEST,M3.5.0,M10.5.0/3
 expect 0 "$ac" '' -- capture ac --monotonic 1036800 --wall 1763900000 --time-zone $zone --format plain vpls-ac-ingress.hex
 expect 2 empty "l2fib-show: --time-zone: no time zone: '/etc/localtime'" -- ac --time-zone /etc/localtime short
 expect 2 empty 'l2fib-show: --monotonic requires --wall' -- capture ac --monotonic 5 short
-expect 2 empty 'l2fib-show: vpls-ac-ingress.bin: line 1, column 1: not pairs of hex digits' -- ac --hex vpls-ac-ingress.bin
+expect 2 empty 'l2fib-show: vpls-ac-ingress.bin: bytes, not a hex dump: use --format raw' -- ac --hex vpls-ac-ingress.bin
 
 "$show" capture bridge-port --egress --node 9 short >failing
 {
@@ -110,6 +110,16 @@ expect 2 count.txt "$broken" -- replay --count mixed
 } >heading.txt
 expect 0 heading.txt '' -- replay --heading "$ac" "$port"
 
+{
+    printf '{"object":"ac"}\n%.0s' 1 2 3 4 5 6 7 8 9
+    cat "$ac"
+    printf '{"object":"pw"}\n'
+} >late
+expect 2 "$screen" "$(for line in 1 2 3 4 5 6 7 8 9 11; do echo "l2fib-show: late:$line: no show_data"; done)" -- \
+    replay late
+{ sed 5q late && sed 5q late && cat "$ac"; } >too_late
+expect 2 "$screen" 'l2fib-show: too_late:1: no show_data
+l2fib-show: too_late: no capture on its first 10 lines' -- replay too_late "$ac"
 expect 2 empty 'l2fib-show: missing: No such file or directory' -- replay missing
 expect 0 empty '' -- replay
 
