@@ -4,6 +4,7 @@
 #include "client/diagnostics.h"
 #include "client/replay.h"
 #include "client/schema.h"
+#include "client/screen.h"
 #include "client/show_data_file.h"
 
 #include <CLI/CLI.hpp>
@@ -324,9 +325,10 @@ static ExitStatus run(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    std::signal(SIGPIPE, SIG_IGN); // a closed pipe and a file that may not grow are outputs that did not arrive
-    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_DFL); // who closes a pipe has seen enough: it ends in silence, whatever was inherited
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an output that did not arrive
     try {
+        const l2fib::Screen screen;
         return l2fib::run(argc, argv);
     } catch (const std::bad_alloc &) {
         return l2fib::complain("out of memory");

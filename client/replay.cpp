@@ -8,6 +8,7 @@
 #include "client/show_data_file.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <map>
 #include <tuple>
@@ -23,6 +24,32 @@ bool Selection::fits(const Capture &capture) const
     return is_wanted && fits(node, capture.node) &&
            fits(direction, capture.object->has_views() ? capture.direction->name : "") &&
            (!xid || capture.object->xid(capture.show_data) == xid);
+}
+
+std::string Selection::text() const
+{
+    std::string options;
+    const auto add = [&options](const char *option, const std::string &argument) {
+        options.append(options.empty() ? "" : " ").append(option).append(" ").append(argument);
+    };
+    for (const std::string &object : objects) {
+        add("--object", object);
+    }
+    if (node) {
+        add("--node", std::to_string(*node));
+    }
+    if (direction) {
+        add("--direction", *direction);
+    }
+    if (xid) {
+        std::array<char, sizeof "0xffffffff"> number{}; // as on the screens
+        std::snprintf(number.data(), number.size(), "0x%08x", *xid);
+        add("--xid", number.data());
+    }
+    if (failed) {
+        add("--status", *failed ? "failed" : "ok");
+    }
+    return options;
 }
 
 /// How many captures of each object and view came to each status.
@@ -98,6 +125,7 @@ public:
             options_.rendering.json ? tally_.write(renderer_.json()) : tally_.print();
         }
         renderer_.flush();
+        report_no_match();
         return output_arrived() ? exit_status_ : unusable;
     }
 
@@ -105,6 +133,7 @@ private:
     void read_line(const Input::Line &line, const Place &place);
     void refuse(const Input::Line &line, const Place &place, const std::string &why);
     void note_capture();
+    void report_no_match() const;
     void show(Capture &capture, const Place &place);
     std::uint32_t status_of(const Capture &capture);
     void print_heading(const Capture &capture, const Place &place);
@@ -129,6 +158,8 @@ private:
     std::optional<BrokenLines> no_captures_; ///< while the file has none
     Capture tried_;                          ///< keeps its memory
     Tally tally_;
+    std::size_t captures_ = 0;
+    std::size_t fitting_ = 0;
     bool is_first_ = true;
     ExitStatus exit_status_ = shown;
 };
@@ -194,6 +225,17 @@ void Replay::note_capture()
         report(no_captures_->messages());
         no_captures_.reset();
     }
+    ++captures_;
+}
+
+/// An empty screen may be what was asked for, so it is no failure; it may also be a slip in a number.
+void Replay::report_no_match() const
+{
+    const std::string choices = options_.selection.text();
+    const bool is_explained = captures_ == 0 && exit_status_ == unusable;
+    if (fitting_ == 0 && !choices.empty() && !is_explained && std::ferror(stdout) == 0) {
+        complain("no capture fits " + choices + " (of " + std::to_string(captures_) + ")");
+    }
 }
 
 /// Shows a capture to nobody. A view converts its show data, so it is a copy that is shown.
@@ -207,16 +249,15 @@ std::uint32_t Replay::status_of(const Capture &capture)
 void Replay::show(Capture &capture, const Place &place)
 {
     const auto &failed = options_.selection.failed;
-    if (options_.count || failed) {
-        const std::uint32_t status = status_of(capture);
-        if (failed && *failed != (status != 0)) {
-            return;
-        }
-        if (options_.count) {
-            tally_.add(capture, status);
-            note(status == 0 ? shown : view_failed);
-            return;
-        }
+    const std::uint32_t tried = options_.count || failed ? status_of(capture) : 0;
+    if (failed && *failed != (tried != 0)) {
+        return;
+    }
+    ++fitting_;
+    if (options_.count) {
+        tally_.add(capture, tried);
+        note(tried == 0 ? shown : view_failed);
+        return;
     }
     print_heading(capture, place);
     const Origin origin{place.file, place.line};
