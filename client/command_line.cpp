@@ -41,6 +41,19 @@ CLI::Validator number_up_to(std::uint64_t highest)
     return {in_decimal, ""};
 }
 
+CLI::Validator no_zeros_in_front()
+{
+    const auto check = [](const std::string &text) {
+        const std::size_t zeros = text.find_first_not_of('0');
+        const bool is_decimal = text.find_first_not_of("0123456789") == std::string::npos;
+        const bool is_clear = zeros == 0 || zeros == std::string::npos || !is_decimal;
+        return is_clear ? std::string()
+                        : spelled_out(text) + " may be hex; write 0x" + text + ", or " + text.substr(zeros) +
+                              " for the decimal number";
+    };
+    return {[check](std::string &text) { return check(text); }, ""};
+}
+
 /// The command that is given, or the program.
 static const CLI::App &command_of(const CLI::App &app)
 {

@@ -17,6 +17,10 @@ CLI::Validator one_of(const std::vector<std::string> &words);
 /// number that begins with 0 is octal.
 CLI::Validator number_up_to(std::uint64_t highest);
 
+/// Refuses a number with zeros in front, which screens have in hex only: 00340003 may be part of 0x00340003. To be used
+/// before number_up_to.
+CLI::Validator no_zeros_in_front();
+
 /// What is wrong with a command line: the word or the option, and then what may be in its place.
 std::string explain(const CLI::App &app, const CLI::ParseError &error);
 

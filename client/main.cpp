@@ -185,7 +185,9 @@ static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options, Rende
     command.add_option("--direction", selection.direction, "Only this side: ingress or egress")
         ->check(one_of(names_of(directions())))
         ->type_name("SIDE");
-    add_number<std::uint32_t>(command, "--xid", selection.xid, "XID", "Only objects of this cross-connect ID");
+    add_number<std::uint32_t>(command, "--xid", selection.xid, "XID",
+                              "Only objects of this cross-connect ID, with the 0x that screens have before it")
+        ->transform(no_zeros_in_front());
     command
         .add_option_function<std::string>(
             "--status", [&selection](const std::string &status) { selection.failed = status == "failed"; },

@@ -78,7 +78,10 @@ expect 2 both.txt "$broken" -- replay --status ok mixed
 expect 1 failing.txt 'l2fib-show: failing:1: status 0x46258800: show data malformed or too short' -- \
     replay --status failed "$ac" failing
 expect 0 both.txt '' -- replay --direction ingress "$ac" failing "$port"
-expect 0 "$screen" '' -- replay --xid 0x00340003 --object ac "$ac" "$port"
+for xid in 0x00340003 3407875; do
+    expect 0 "$screen" '' -- replay --xid $xid --object ac "$ac" "$port"
+done
+expect 0 empty 'l2fib-show: no capture fits --xid 0x00000000 (of 1)' -- replay --xid 0 "$ac"
 expect 1 failing.txt 'l2fib-show: failing:1: status 0x46258800: show data malformed or too short' -- \
     replay --node 9 "$ac" failing
 cat >count.txt <<END
