@@ -1,5 +1,6 @@
 #include "client/diagnostics.h"
 
+#include "client/harmless_text.h"
 #include "client/screen.h"
 #include "platform/platform.h"
 
@@ -14,7 +15,7 @@ namespace l2fib
 ExitStatus complain(std::string_view what)
 {
     end_screen_line();
-    std::fprintf(stderr, "l2fib-show: %.*s\n", static_cast<int>(what.size()), what.data());
+    std::fprintf(stderr, "l2fib-show: %s\n", harmless_line(what).c_str());
     return unusable;
 }
 

@@ -15,6 +15,7 @@
 #include <exception>
 #include <limits>
 #include <new>
+#include <optional>
 #include <sstream>
 #include <unistd.h>
 
@@ -25,6 +26,7 @@ namespace l2fib
 struct RenderingOptions {
     Rendering rendering;
     std::string color = "auto";
+    bool raw = false;
 };
 
 /// What is said of one object on the command line.
@@ -128,6 +130,7 @@ static void add_rendering(CLI::App &app, RenderingOptions &options)
                    "Colour the table of --bytes: auto (on a terminal, the default), always or never")
         ->check(one_of({"auto", "always", "never"}))
         ->type_name("WHEN");
+    app.add_flag("--raw", options.raw, "Send bytes that are no text to a terminal, too, which may obey them");
 }
 
 /// The rendering that is asked for; NO_COLOR in the environment means never.
@@ -309,6 +312,7 @@ static ExitStatus run(int argc, char **argv)
     if (app.get_subcommands().empty()) {
         return complain("an object is required; see l2fib-show --help");
     }
+    const auto raw_text = request.rendering.raw ? std::make_optional<UnchangedText>() : std::nullopt;
     if (help_command->parsed()) {
         app.clear(); // or it would print the help of this command
         return print(help_subject.empty() ? app.help() : app.get_subcommand(help_subject)->help(app.get_name()));
@@ -323,6 +327,17 @@ static ExitStatus run(int argc, char **argv)
     return capture_command->parsed() ? capture(request) : show(request);
 }
 
+static ExitStatus run_to_end(int argc, char **argv)
+{
+    try {
+        return run(argc, argv);
+    } catch (const std::bad_alloc &) {
+        return complain("out of memory");
+    } catch (const std::exception &error) {
+        return complain(error.what());
+    }
+}
+
 } // namespace l2fib
 
 int main(int argc, char **argv)
@@ -331,10 +346,8 @@ int main(int argc, char **argv)
     std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an output that did not arrive
     try {
         const l2fib::Screen screen;
-        return l2fib::run(argc, argv);
-    } catch (const std::bad_alloc &) {
-        return l2fib::complain("out of memory");
-    } catch (const std::exception &error) {
+        return l2fib::run_to_end(argc, argv);
+    } catch (const std::exception &error) { // of the screen
         return l2fib::complain(error.what());
     }
 }

@@ -1,5 +1,7 @@
 #include "client/screen.h"
 
+#include "client/harmless_text.h"
+
 #include <cerrno>
 #include <string_view>
 #include <sys/stat.h>
@@ -13,7 +15,10 @@ namespace l2fib
 
 /// What standard output is while a Screen lives.
 static std::FILE *screen_stream = nullptr;
+static bool has_messages = false; // among its text
 static bool is_in_line = false;
+static bool is_made_harmless = false;
+static HarmlessText harmless_text;
 
 /// Whether messages appear among the text.
 static bool have_same_place()
@@ -44,7 +49,7 @@ static bool write_all(std::string_view text)
 static ssize_t write_to_screen(void * /*cookie*/, const char *bytes, std::size_t size)
 {
     const std::string_view text(bytes, size);
-    if (text.empty() || !write_all(text)) {
+    if (text.empty() || !write_all(is_made_harmless ? harmless_text.add(text) : text)) {
         return 0; // which is how the stream is told of a failure
     }
     is_in_line = text.back() != '\n';
@@ -53,7 +58,9 @@ static ssize_t write_to_screen(void * /*cookie*/, const char *bytes, std::size_t
 
 Screen::Screen()
 {
-    if (!have_same_place()) {
+    const bool is_terminal = isatty(STDOUT_FILENO) != 0;
+    has_messages = have_same_place();
+    if (!is_terminal && !has_messages) {
         return;
     }
     cookie_io_functions_t functions{};
@@ -62,7 +69,8 @@ Screen::Screen()
     if (screen_stream == nullptr) {
         throw std::system_error(errno, std::generic_category(), "standard output");
     }
-    if (isatty(STDOUT_FILENO) != 0) {
+    is_made_harmless = is_terminal;
+    if (is_terminal) {
         std::setvbuf(screen_stream, nullptr, _IOLBF, BUFSIZ);
     }
     own_ = std::exchange(stdout, screen_stream); // glibc lets stdout be another stream for a while
@@ -73,12 +81,29 @@ Screen::~Screen()
     if (own_ != nullptr) {
         stdout = own_;
         std::fclose(std::exchange(screen_stream, nullptr));
+        write_all(harmless_text.finish());
     }
+}
+
+/// What is still in a buffer was written under the other rule.
+static bool change_rule(bool made_harmless)
+{
+    if (screen_stream != nullptr) {
+        std::fflush(screen_stream);
+    }
+    return std::exchange(is_made_harmless, made_harmless);
+}
+
+UnchangedText::UnchangedText() : was_changed_(change_rule(false)) {}
+
+UnchangedText::~UnchangedText()
+{
+    change_rule(was_changed_);
 }
 
 void end_screen_line()
 {
-    if (screen_stream != nullptr) {
+    if (screen_stream != nullptr && has_messages) {
         std::fflush(screen_stream);
         if (std::exchange(is_in_line, false)) {
             std::fputc('\n', stderr);

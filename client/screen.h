@@ -6,8 +6,9 @@
 namespace l2fib
 {
 
-/// Takes standard output over as long as it lives, where standard error goes to the same place: texts of views have no
-/// line end, and messages come after them. Elsewhere standard output is left alone.
+/// Takes standard output over as long as it lives, on a terminal, to make what goes there harmless, and where standard
+/// error goes to the same place: texts of views have no line end, and messages come after them. Elsewhere standard
+/// output is left alone.
 class Screen
 {
 public:
@@ -18,6 +19,19 @@ public:
 
 private:
     std::FILE *own_ = nullptr; ///< what was standard output; null when it was left alone
+};
+
+/// Has bytes go to a terminal as they are, as long as it lives: those that are wanted so, and the client's own colours.
+class UnchangedText
+{
+public:
+    UnchangedText();
+    ~UnchangedText();
+    UnchangedText(const UnchangedText &) = delete;
+    UnchangedText &operator=(const UnchangedText &) = delete;
+
+private:
+    bool was_changed_;
 };
 
 /// Ends the line that text on the screen is in, before a message comes after it.

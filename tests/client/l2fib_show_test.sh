@@ -203,6 +203,27 @@ colors no terminal '' --color never
     printf '\n%s\n' "$failed"
 } | diff together - || failures=$((failures + 1))
 
+# A terminal is sent nothing that it obeys, but gets the same screens. Files and pipes get every byte.
+on_terminal() { # ARGUMENT...
+    LC_ALL=C.UTF-8 script -qec "$show $*" /dev/null </dev/null | sed 's/\r$//'
+}
+on_terminal replay "$source/examples/*.jsonl" "2>/dev/null" >terminal
+"$show" replay "$source"/examples/*.jsonl | cmp - terminal || failures=$((failures + 1))
+on_terminal replay "$ac" failing "$ac" >terminal
+{
+    cat "$screen" failing.txt
+    printf '\nl2fib-show: failing:1: status 0x46258800: show data malformed or too short\n'
+    cat "$screen"
+} | cmp - terminal || failures=$((failures + 1))
+hostile=$(printf '\033[2J\302\2331m\303\251\377.jsonl')
+printf '{"object":"ac","view":"inconsistent","show_data":"030901611b5d078000"}\n' >"$hostile"
+printf '== %s:1: ac ingress inconsistent\n\n  a\033]\007\200 ' "$hostile" >hostile.txt
+printf '== \\x1b[2J\\xc2\\x9b1m\303\251\\xff.jsonl:1: ac ingress inconsistent\n\n  a\\x1b]\\x07\\x80 ' >harmless.txt
+expect 0 hostile.txt '' -- replay --heading "$hostile"
+on_terminal replay --heading "'$hostile'" | diff harmless.txt - || failures=$((failures + 1))
+on_terminal replay --heading --raw "'$hostile'" | diff hostile.txt - || failures=$((failures + 1))
+LC_ALL=C expect 2 empty 'l2fib-show: \x1b\x0a\xff: No such file or directory' -- ac "$(printf '\033\n\377')"
+
 # Text that does not arrive.
 fails_to_write() {
     "$show" "$@" >/dev/full 2>stderr
