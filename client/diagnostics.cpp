@@ -1,5 +1,7 @@
 #include "client/diagnostics.h"
 
+#include "client/harmless_text.h"
+#include "client/screen.h"
 #include "platform/platform.h"
 
 #include <array>
@@ -12,7 +14,8 @@ namespace l2fib
 
 ExitStatus complain(std::string_view what)
 {
-    std::fprintf(stderr, "l2fib-show: %.*s\n", static_cast<int>(what.size()), what.data());
+    end_screen_line();
+    std::fprintf(stderr, "l2fib-show: %s\n", harmless_line(what).c_str());
     return unusable;
 }
 

@@ -14,7 +14,7 @@ enum ExitStatus : int {
     unusable = 2,    ///< wrong usage, unreadable input, or nowhere to write to
 };
 
-/// Prints a line with the program's name. Returns `unusable`.
+/// Prints a line with the program's name, fit for a terminal. Returns `unusable`.
 ExitStatus complain(std::string_view what);
 
 /// The router's text of a status; never null, though a router may have none.

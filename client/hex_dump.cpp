@@ -49,6 +49,14 @@ private:
     std::size_t at_ = 0;
 };
 
+/// The number of an offset; none for another text.
+static std::optional<std::size_t> hex_number(std::string_view text)
+{
+    std::size_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, 16);
+    return error == std::errc{} && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
 /// Reads a dump line by line.
 class DumpReader
 {
@@ -56,7 +64,7 @@ public:
     DumpReader(HexForm form, std::size_t longest) : form_(form), longest_(longest) {}
 
     /// False, with an error, for a line that is not of the form.
-    bool read_line(std::string_view text);
+    bool read_line(std::string_view text, std::string_view next);
 
     /// The same for a dump that ends too early.
     bool finish()
@@ -67,7 +75,8 @@ public:
     HexBytes take_result() { return std::move(result_); }
 
 private:
-    static HexForm form_of(std::string_view line);
+    static HexForm form_of(std::string_view line, std::string_view next);
+    static bool is_numbered(std::string_view line, std::string_view next);
     bool read_plain(WordCursor line);
     bool read_dump_line(WordCursor line);
     bool read_offset(std::string_view offset, std::size_t column);
@@ -92,9 +101,28 @@ private:
     std::optional<std::size_t> repeated_at_; // where a "*" is in place of more lines like it
 };
 
-/// By the offset: an xxd's has a colon. One without is told from bytes by the words after it, or by the bars around the
-/// characters.
-HexForm DumpReader::form_of(std::string_view line)
+/// Whether two lines begin with offsets, of which the second is some bytes after the first. Where the words after them
+/// are as long, they are bytes all the same, unless od has that size for its offsets and for words of octal digits.
+bool DumpReader::is_numbered(std::string_view line, std::string_view next)
+{
+    constexpr std::size_t od_offset_size = 6;
+    constexpr std::size_t most_bytes = 32;
+    WordCursor words(line);
+    const std::string_view first = words.next_word();
+    const std::string_view second = WordCursor(next).next_word();
+    const std::size_t word_size = words.next_word().size();
+    if (first.size() < od_offset_size || second.size() != first.size() ||
+        (word_size == first.size() && word_size != od_offset_size)) {
+        return false;
+    }
+    const auto begin = hex_number(first);
+    const auto end = hex_number(second);
+    return begin && end && *begin < *end && *end - *begin <= most_bytes;
+}
+
+/// By the offset: an xxd's has a colon. One without is told from bytes by the words after it, by the offset of the next
+/// line, or by the bars around the characters.
+HexForm DumpReader::form_of(std::string_view line, std::string_view next)
 {
     WordCursor words(line);
     const std::string_view first = words.next_word();
@@ -106,7 +134,7 @@ HexForm DumpReader::form_of(std::string_view line)
     const std::size_t second_size = words.next_word().size();
     const bool is_offset = first.size() >= shortest_offset && first.find_first_not_of('0') == std::string_view::npos;
     const bool is_word = std::find(std::begin(word_sizes), std::end(word_sizes), second_size) != std::end(word_sizes);
-    if (is_offset && is_word && second_size != first.size()) {
+    if ((is_offset && is_word && second_size != first.size()) || is_numbered(line, next)) {
         return HexForm::hexdump;
     }
     const std::size_t last = line.find_last_not_of(blanks);
@@ -139,24 +167,23 @@ bool DumpReader::read_plain(WordCursor line)
 /// Where the line lies, which has to be where the bytes before it end.
 bool DumpReader::read_offset(std::string_view offset, std::size_t column)
 {
-    std::size_t begin = 0;
-    const auto [end, error] = std::from_chars(offset.data(), offset.data() + offset.size(), begin, 16);
-    if (error != std::errc{} || end != offset.data() + offset.size()) {
+    const auto begin = hex_number(offset);
+    if (!begin) {
         return fail(column, "no offset");
     }
-    if (begin > longest_) {
+    if (*begin > longest_) {
         return fail(column, "more bytes than any show data has");
     }
     std::vector<std::uint8_t> &bytes = result_.bytes;
     const std::size_t line_size = bytes_of_line();
-    while (repeated_at_ && line_size != 0 && bytes.size() < begin) {
+    while (repeated_at_ && line_size != 0 && bytes.size() < *begin) {
         for (std::size_t i = 0; i < line_size; ++i) {
             bytes.push_back(bytes[line_begin_ + i]);
         }
     }
     repeated_at_.reset();
     line_begin_ = bytes.size();
-    return begin == bytes.size() || fail(column, "not the offset at which the bytes before it end");
+    return *begin == bytes.size() || fail(column, "not the offset at which the bytes before it end");
 }
 
 /// Whether a text has a character for each byte of the line. Where xxd's begin does not show when they are blanks.
@@ -227,7 +254,7 @@ bool DumpReader::read_dump_line(WordCursor line)
     return read_offset(offset, column) && read_bytes(line);
 }
 
-bool DumpReader::read_line(std::string_view text)
+bool DumpReader::read_line(std::string_view text, std::string_view next)
 {
     ++line_;
     WordCursor line(text);
@@ -236,7 +263,7 @@ bool DumpReader::read_line(std::string_view text)
         return true;
     }
     if (form_ == HexForm::any) {
-        form_ = form_of(text);
+        form_ = form_of(text, next);
     }
     return form_ == HexForm::plain ? read_plain(line) : read_dump_line(line);
 }
@@ -246,9 +273,9 @@ HexBytes read_hex_dump(std::string_view text, HexForm form, std::size_t longest)
     DumpReader reader{form, longest};
     bool is_read = true;
     while (is_read && !text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        is_read = reader.read_line(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
+        const std::string_view line = text.substr(0, text.find('\n'));
+        text.remove_prefix(std::min(line.size() + 1, text.size()));
+        is_read = reader.read_line(line, text.substr(0, text.find('\n')));
     }
     if (is_read) {
         reader.finish();

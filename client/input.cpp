@@ -27,7 +27,7 @@ Input::~Input()
 
 void Input::fail()
 {
-    error_ = path_ + ": " + std::strerror(errno);
+    error_ = (path_.empty() ? "''" : path_) + ": " + std::strerror(errno);
     is_at_end_ = true;
 }
 

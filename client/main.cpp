@@ -1,10 +1,11 @@
 // l2fib-show: prints saved show data as the router's show commands do.
 #include "client/capture_writer.h"
+#include "client/command_line.h"
 #include "client/diagnostics.h"
 #include "client/replay.h"
 #include "client/schema.h"
+#include "client/screen.h"
 #include "client/show_data_file.h"
-#include "client/whole_number.h"
 
 #include <CLI/CLI.hpp>
 
@@ -14,6 +15,7 @@
 #include <exception>
 #include <limits>
 #include <new>
+#include <optional>
 #include <sstream>
 #include <unistd.h>
 
@@ -24,6 +26,7 @@ namespace l2fib
 struct RenderingOptions {
     Rendering rendering;
     std::string color = "auto";
+    bool raw = false;
 };
 
 /// What is said of one object on the command line.
@@ -31,7 +34,7 @@ struct Request {
     Capture capture;
     std::optional<std::uint64_t> monotonic_seconds;
     std::optional<std::uint64_t> wall_seconds;
-    std::optional<HexForm> hex;
+    ChosenFormat format;
     std::string file;
     RenderingOptions rendering;
 };
@@ -54,7 +57,7 @@ static CLI::Option *add_named(CLI::App &app, const char *option, std::span<const
     return app
         .add_option_function<std::string>(
             option, [table, take](const std::string &name) { take(*row_named(table, name)); }, help)
-        ->check(CLI::IsMember(names_of(table)));
+        ->check(one_of(names_of(table)));
 }
 
 static void add_direction_and_view(CLI::App &app, Capture &capture)
@@ -71,24 +74,12 @@ static void add_direction_and_view(CLI::App &app, Capture &capture)
         ->type_name("VIEW");
 }
 
-/// An option whose argument is a number, written as in captures. CLI11 is handed it in plain decimal: by its own rules,
-/// a number that begins with 0 is octal.
 template <class Number, class Field>
 static CLI::Option *add_number(CLI::App &app, const char *option, Field &field, const char *type_name, const char *help)
 {
-    const auto in_decimal = [](std::string &text) {
-        constexpr Number highest = std::numeric_limits<Number>::max();
-        const auto number = whole_number(text);
-        if (!number) {
-            return "no number: " + spelled_out(text);
-        }
-        if (*number > highest) {
-            return "number above " + std::to_string(highest) + ": " + spelled_out(text);
-        }
-        text = std::to_string(*number);
-        return std::string();
-    };
-    return app.add_option(option, field, help)->type_name(type_name)->transform(CLI::Validator(in_decimal, ""));
+    return app.add_option(option, field, help)
+        ->type_name(type_name)
+        ->transform(number_up_to(std::numeric_limits<Number>::max()));
 }
 
 static void add_router(CLI::App &app, Request &request)
@@ -109,18 +100,23 @@ static void add_router(CLI::App &app, Request &request)
     app.add_option("--time-zone", router.time_zone, "Its time zone, as POSIX writes it: CET-1CEST,M3.5.0,M10.5.0/3")
         ->type_name("ZONE")
         ->check([](const std::string &zone) {
-            return is_time_zone(zone) ? std::string() : "no time zone: " + spelled_out(zone);
+            return is_time_zone(zone) ? std::string()
+                                      : spelled_out(zone) + " is no time zone as POSIX writes it, like CET-1CEST";
         });
 }
 
 static void add_input(CLI::App &app, Request &request)
 {
     auto *format = add_named<ShowDataFormat>(
-        app, "--format", show_data_formats, [&request](const ShowDataFormat &named) { request.hex = named.hex; },
-        "raw (the default), hex (any of those that follow), plain, xxd or hexdump");
+        app, "--format", show_data_formats,
+        [&request](const ShowDataFormat &named) {
+            request.format = {named.hex, true};
+        },
+        "raw (the default; given, nothing is taken for another format), hex (any of those that follow), plain, xxd or "
+        "hexdump");
     format->type_name("FORMAT");
     app.add_flag_callback(
-           "--hex", [&request] { request.hex = HexForm::any; }, "The same as --format hex")
+           "--hex", [&request] { request.format.hex = HexForm::any; }, "The same as --format hex")
         ->excludes(format);
     app.add_option("FILE", request.file, "Show data; - for standard input")->required()->type_name("");
 }
@@ -132,8 +128,9 @@ static void add_rendering(CLI::App &app, RenderingOptions &options)
                  "Print what each byte of the show data is, in place of the screen; as JSON with --json");
     app.add_option("--color", options.color,
                    "Colour the table of --bytes: auto (on a terminal, the default), always or never")
-        ->check(CLI::IsMember({"auto", "always", "never"}))
+        ->check(one_of({"auto", "always", "never"}))
         ->type_name("WHEN");
+    app.add_flag("--raw", options.raw, "Send bytes that are no text to a terminal, too, which may obey them");
 }
 
 /// The rendering that is asked for; NO_COLOR in the environment means never.
@@ -184,19 +181,21 @@ static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options, Rende
     CLI::App &command = *app.add_subcommand("replay", "Show the captures of files");
     Selection &selection = options.selection;
     command.add_option("--object", selection.objects, "Only objects of this command; repeatable")
-        ->check(CLI::IsMember(names_of(objects())))
+        ->check(one_of(names_of(objects())))
         ->type_name("OBJECT")
         ->allow_extra_args(false);
     add_number<std::uint32_t>(command, "--node", selection.node, "ID", "Only objects of this node");
     command.add_option("--direction", selection.direction, "Only this side: ingress or egress")
-        ->check(CLI::IsMember(names_of(directions())))
+        ->check(one_of(names_of(directions())))
         ->type_name("SIDE");
-    add_number<std::uint32_t>(command, "--xid", selection.xid, "XID", "Only objects of this cross-connect ID");
+    add_number<std::uint32_t>(command, "--xid", selection.xid, "XID",
+                              "Only objects of this cross-connect ID, with the 0x that screens have before it")
+        ->transform(no_zeros_in_front());
     command
         .add_option_function<std::string>(
             "--status", [&selection](const std::string &status) { selection.failed = status == "failed"; },
             "Only views that ended so: ok or failed")
-        ->check(CLI::IsMember({"ok", "failed"}))
+        ->check(one_of({"ok", "failed"}))
         ->type_name("STATUS");
     command.add_flag("--count", options.count, "Print how many objects, views and statuses there are, not their text");
     command.add_flag("--heading", options.heading,
@@ -209,10 +208,33 @@ static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options, Rende
     return &command;
 }
 
+static CLI::App *add_help_command(CLI::App &app, std::string &subject)
+{
+    CLI::App &command = *app.add_subcommand("help", "Print the help of a command");
+    std::vector<std::string> names;
+    for (const CLI::App *any : app.get_subcommands({})) {
+        names.push_back(any->get_name());
+    }
+    command.add_option("COMMAND", subject, "A command; without it, all of them")->check(one_of(names))->type_name("");
+    return &command;
+}
+
+/// Flags are given or not: --json=no is a mistake.
+static void take_no_arguments(CLI::App &app)
+{
+    for (CLI::App *command : app.get_subcommands({})) {
+        for (CLI::Option *option : command->get_options()) {
+            if (option->get_items_expected_max() == 0) {
+                option->disable_flag_override();
+            }
+        }
+    }
+}
+
 /// Reads the show data of a request. False, having said why, when there is none.
 static bool complete(Request &request)
 {
-    ShowDataFile file = read_show_data(request.file, request.hex);
+    ShowDataFile file = read_show_data(request.file, request.format);
     if (!file.error.empty()) {
         complain(file.error);
         return false;
@@ -265,7 +287,7 @@ static ExitStatus run(int argc, char **argv)
                  "Exit status: 0 all is shown, 1 a view reported a failure, 2 wrong usage or unreadable input.",
                  "l2fib-show"};
     app.require_subcommand(0, 1); // none is reported below, so that an unknown one is reported by its name
-    app.set_version_flag("--version", "l2fib-show " L2FIB_VERSION);
+    app.set_version_flag("-V,--version", "l2fib-show " L2FIB_VERSION);
     add_example(app, "l2fib-show replay router.jsonl\n  l2fib-show ac --egress ac.bin");
     Request request;
     for (const Object &object : objects()) {
@@ -275,6 +297,9 @@ static ExitStatus run(int argc, char **argv)
     ReplayOptions replay_options;
     const CLI::App *replay_command = add_replay_command(app, replay_options, request.rendering);
     const CLI::App *schema_command = app.add_subcommand("schema", "Print the JSON Schema of what --json prints");
+    std::string help_subject;
+    const CLI::App *help_command = add_help_command(app, help_subject);
+    take_no_arguments(app);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success &asked) {
@@ -282,10 +307,15 @@ static ExitStatus run(int argc, char **argv)
         app.exit(asked, text, text);
         return print(text.str());
     } catch (const CLI::ParseError &error) {
-        return complain(error.what());
+        return complain(explain(app, error));
     }
     if (app.get_subcommands().empty()) {
         return complain("an object is required; see l2fib-show --help");
+    }
+    const auto raw_text = request.rendering.raw ? std::make_optional<UnchangedText>() : std::nullopt;
+    if (help_command->parsed()) {
+        app.clear(); // or it would print the help of this command
+        return print(help_subject.empty() ? app.help() : app.get_subcommand(help_subject)->help(app.get_name()));
     }
     if (schema_command->parsed()) {
         return print(std::string(published_schema()));
@@ -297,17 +327,27 @@ static ExitStatus run(int argc, char **argv)
     return capture_command->parsed() ? capture(request) : show(request);
 }
 
+static ExitStatus run_to_end(int argc, char **argv)
+{
+    try {
+        return run(argc, argv);
+    } catch (const std::bad_alloc &) {
+        return complain("out of memory");
+    } catch (const std::exception &error) {
+        return complain(error.what());
+    }
+}
+
 } // namespace l2fib
 
 int main(int argc, char **argv)
 {
-    std::signal(SIGPIPE, SIG_IGN); // a closed pipe and a file that may not grow are outputs that did not arrive
-    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_DFL); // who closes a pipe has seen enough: it ends in silence, whatever was inherited
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an output that did not arrive
     try {
-        return l2fib::run(argc, argv);
-    } catch (const std::bad_alloc &) {
-        return l2fib::complain("out of memory");
-    } catch (const std::exception &error) {
+        const l2fib::Screen screen;
+        return l2fib::run_to_end(argc, argv);
+    } catch (const std::exception &error) { // of the screen
         return l2fib::complain(error.what());
     }
 }

@@ -2,7 +2,10 @@
 
 #include "client/byte_table.h"
 #include "client/hex_digits.h"
+#include "client/screen.h"
 #include "recording/views.h"
+
+#include <optional>
 
 namespace l2fib
 {
@@ -62,6 +65,7 @@ std::uint32_t Renderer::show_bytes(Capture &capture, const Origin *origin)
     bytes_recorder_.begin(capture.show_data);
     const std::uint32_t status = record(capture, bytes_recorder_);
     if (!rendering_.json) {
+        const auto own_colors = rendering_.colored ? std::make_optional<UnchangedText>() : std::nullopt;
         print_byte_table(bytes_recorder_, received_, rendering_.colored);
         return status;
     }

@@ -1,5 +1,6 @@
 #include "client/replay.h"
 
+#include "client/broken_lines.h"
 #include "client/capture_reader.h"
 #include "client/discarded_output.h"
 #include "client/input.h"
@@ -7,6 +8,7 @@
 #include "client/show_data_file.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <map>
 #include <tuple>
@@ -22,6 +24,32 @@ bool Selection::fits(const Capture &capture) const
     return is_wanted && fits(node, capture.node) &&
            fits(direction, capture.object->has_views() ? capture.direction->name : "") &&
            (!xid || capture.object->xid(capture.show_data) == xid);
+}
+
+std::string Selection::text() const
+{
+    std::string options;
+    const auto add = [&options](const char *option, const std::string &argument) {
+        options.append(options.empty() ? "" : " ").append(option).append(" ").append(argument);
+    };
+    for (const std::string &object : objects) {
+        add("--object", object);
+    }
+    if (node) {
+        add("--node", std::to_string(*node));
+    }
+    if (direction) {
+        add("--direction", *direction);
+    }
+    if (xid) {
+        std::array<char, sizeof "0xffffffff"> number{}; // as on the screens
+        std::snprintf(number.data(), number.size(), "0x%08x", *xid);
+        add("--xid", number.data());
+    }
+    if (failed) {
+        add("--status", *failed ? "failed" : "ok");
+    }
+    return options;
 }
 
 /// How many captures of each object and view came to each status.
@@ -97,11 +125,15 @@ public:
             options_.rendering.json ? tally_.write(renderer_.json()) : tally_.print();
         }
         renderer_.flush();
+        report_no_match();
         return output_arrived() ? exit_status_ : unusable;
     }
 
 private:
     void read_line(const Input::Line &line, const Place &place);
+    void refuse(const Input::Line &line, const Place &place, const std::string &why);
+    void note_capture();
+    void report_no_match() const;
     void show(Capture &capture, const Place &place);
     std::uint32_t status_of(const Capture &capture);
     void print_heading(const Capture &capture, const Place &place);
@@ -112,13 +144,22 @@ private:
         progress_.clear();
         note(complain(what));
     }
+    void report(const std::vector<std::string> &messages)
+    {
+        for (const std::string &message : messages) {
+            report(message);
+        }
+    }
 
     const ReplayOptions &options_;
     Progress progress_;
     Renderer renderer_;
     CaptureReader reader_;
-    Capture tried_; ///< keeps its memory
+    std::optional<BrokenLines> no_captures_; ///< while the file has none
+    Capture tried_;                          ///< keeps its memory
     Tally tally_;
+    std::size_t captures_ = 0;
+    std::size_t fitting_ = 0;
     bool is_first_ = true;
     ExitStatus exit_status_ = shown;
 };
@@ -127,6 +168,7 @@ void Replay::file(const std::string &path)
 {
     constexpr std::size_t longest_line = 2 * longest_show_data + (std::size_t{64} << 10U);
     Input input(path);
+    no_captures_.emplace();
     for (std::size_t number = 1; std::ferror(stdout) == 0; ++number) {
         const auto line = input.next_line(longest_line);
         if (!line) {
@@ -134,6 +176,12 @@ void Replay::file(const std::string &path)
         }
         read_line(*line, {path, number});
         progress_.step();
+        if (no_captures_ && no_captures_->are_enough()) {
+            break;
+        }
+    }
+    if (no_captures_) {
+        report(no_captures_->verdict(path));
     }
     if (!input.error().empty()) {
         report(input.error());
@@ -143,7 +191,7 @@ void Replay::file(const std::string &path)
 void Replay::read_line(const Input::Line &line, const Place &place)
 {
     if (line.is_too_long) {
-        report(place.text() + ": line too long");
+        refuse(line, place, "line too long");
         return;
     }
     if (line.text.find_first_not_of(" \t\r") == std::string_view::npos) {
@@ -151,9 +199,42 @@ void Replay::read_line(const Input::Line &line, const Place &place)
     }
     CaptureLine &parsed = reader_.read(line.text);
     if (!parsed.error.empty()) {
-        report(place.text() + ": " + parsed.error);
-    } else if (options_.selection.fits(parsed.capture)) {
+        refuse(line, place, parsed.error);
+        return;
+    }
+    note_capture();
+    if (options_.selection.fits(parsed.capture)) {
         show(parsed.capture, place);
+    }
+}
+
+void Replay::refuse(const Input::Line &line, const Place &place, const std::string &why)
+{
+    const std::string message = place.text() + ": " + why;
+    if (no_captures_) {
+        no_captures_->add(line.text, message);
+    } else {
+        report(message);
+    }
+}
+
+/// The broken lines before the file's first capture are no more than that.
+void Replay::note_capture()
+{
+    if (no_captures_) {
+        report(no_captures_->messages());
+        no_captures_.reset();
+    }
+    ++captures_;
+}
+
+/// An empty screen may be what was asked for, so it is no failure; it may also be a slip in a number.
+void Replay::report_no_match() const
+{
+    const std::string choices = options_.selection.text();
+    const bool is_explained = captures_ == 0 && exit_status_ == unusable;
+    if (fitting_ == 0 && !choices.empty() && !is_explained && std::ferror(stdout) == 0) {
+        complain("no capture fits " + choices + " (of " + std::to_string(captures_) + ")");
     }
 }
 
@@ -168,16 +249,15 @@ std::uint32_t Replay::status_of(const Capture &capture)
 void Replay::show(Capture &capture, const Place &place)
 {
     const auto &failed = options_.selection.failed;
-    if (options_.count || failed) {
-        const std::uint32_t status = status_of(capture);
-        if (failed && *failed != (status != 0)) {
-            return;
-        }
-        if (options_.count) {
-            tally_.add(capture, status);
-            note(status == 0 ? shown : view_failed);
-            return;
-        }
+    const std::uint32_t tried = options_.count || failed ? status_of(capture) : 0;
+    if (failed && *failed != (tried != 0)) {
+        return;
+    }
+    ++fitting_;
+    if (options_.count) {
+        tally_.add(capture, tried);
+        note(tried == 0 ? shown : view_failed);
+        return;
     }
     print_heading(capture, place);
     const Origin origin{place.file, place.line};

@@ -21,6 +21,9 @@ struct Selection {
     std::optional<bool> failed; ///< by the status of the view
 
     [[nodiscard]] bool fits(const Capture &capture) const;
+
+    /// The choices as options; empty when all captures fit.
+    [[nodiscard]] std::string text() const;
 };
 
 struct ReplayOptions {

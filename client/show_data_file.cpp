@@ -1,14 +1,22 @@
 #include "client/show_data_file.h"
 
 #include "client/input.h"
+#include "client/wrong_input.h"
 
 namespace l2fib
 {
 
-static HexBytes bytes_of(std::string_view text, std::optional<HexForm> hex)
+static HexBytes bytes_of(std::string_view text, const ChosenFormat &format)
 {
-    if (hex) {
-        return read_hex_dump(text, *hex, longest_show_data);
+    if (format.hex) {
+        HexBytes read = read_hex_dump(text, *format.hex, longest_show_data);
+        if (const std::string form = read.error.empty() ? "" : other_than_hex_dump(text); !form.empty()) {
+            read.error = form;
+        }
+        return read;
+    }
+    if (const std::string form = format.is_told ? "" : other_than_show_data(text); !form.empty()) {
+        return {{}, form};
     }
     if (text.size() > longest_show_data) {
         return {{}, "more bytes than any show data has"};
@@ -16,7 +24,7 @@ static HexBytes bytes_of(std::string_view text, std::optional<HexForm> hex)
     return {{text.begin(), text.end()}, {}};
 }
 
-ShowDataFile read_show_data(const std::string &path, std::optional<HexForm> hex)
+ShowDataFile read_show_data(const std::string &path, const ChosenFormat &format)
 {
     constexpr std::size_t longest_dump = 8 * longest_show_data; // with its offsets and characters
     Input input(path);
@@ -24,7 +32,7 @@ ShowDataFile read_show_data(const std::string &path, std::optional<HexForm> hex)
     if (!input.error().empty()) {
         return {{}, input.error()};
     }
-    HexBytes bytes = bytes_of(text, hex);
+    HexBytes bytes = bytes_of(text, format);
     if (!bytes.error.empty()) {
         return {{}, path + ": " + bytes.error};
     }

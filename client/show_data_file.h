@@ -28,7 +28,12 @@ inline constexpr ShowDataFormat show_data_formats[] = {
     {"xxd", HexForm::xxd}, {"hexdump", HexForm::hexdump},
 };
 
+struct ChosenFormat {
+    std::optional<HexForm> hex; ///< none for raw bytes
+    bool is_told = false;       ///< so that nothing is guessed from the bytes
+};
+
 /// Reads a file, or standard input for "-". An empty one is an error.
-ShowDataFile read_show_data(const std::string &path, std::optional<HexForm> hex);
+ShowDataFile read_show_data(const std::string &path, const ChosenFormat &format);
 
 } // namespace l2fib

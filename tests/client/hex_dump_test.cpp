@@ -21,6 +21,8 @@ TEST(HexDump, Forms)
         {HexForm::any, "00 11\tA2\r\n\n 0xB3 0XFF\n", five},
         {HexForm::any, "0x0011a2b3ff", five},
         {HexForm::any, "00000000 00000005", {0, 0, 0, 0, 0, 0, 0, 5}},
+        {HexForm::any, "00000000 00000005\n00000004\n", {0, 0, 0, 0, 0, 0, 0, 5, 0, 0, 0, 4}},
+        {HexForm::any, "000010 11\n000010 11\n", {0, 0, 0x10, 0x11, 0, 0, 0x10, 0x11}},
         {HexForm::any, "", {}},
         // xxd, and what mail programs make of it
         {HexForm::any, "00000000: 0011 a2b3 ff                             .....\n", five},
@@ -80,6 +82,9 @@ TEST(HexDump, WhatIsNone)
         {HexForm::any, "0000000 00 11\n0000020\n", "line 1, column 1", octal},
         {HexForm::any, "0000000 0100 0302", "line 1, column 9", words},
         {HexForm::any, "000000 01000302", "line 1, column 8", words},
+        {HexForm::any, "000000 000400 001234\n000010 000001\n", "line 1, column 8", words},
+        {HexForm::any, "000000      0  -1234\n000004\n", "line 1, column 13", neither},
+        {HexForm::any, "000001 00 11\n000003 22\n", "line 1, column 1", offset},
         {HexForm::hexdump, "00000000  00 11 |..|\n*\n00000003\n", "line 3, column 1", offset},
         {HexForm::hexdump, "00000000  00 |.|\n*\nffffffff\n", "line 3, column 1", "more bytes than any show data has"},
         {HexForm::hexdump, "*\n00000004\n", "line 2, column 1", offset},

@@ -34,7 +34,7 @@ captures 24 8 '","show_data":"00"}
 captures 1 8 '' | within $bound 'l2fib-show: -:1: broken JSON at byte 8388644' --
 perl -e 'print "{", "\t" x (8 << 20), "x"' | within $bound 'l2fib-show: -:1: broken JSON at byte 8388610' --
 perl -e 'print "{\"object\":\"ac\",\"virtual_interfaces\":[", "1," x (4 << 20), "2],\"show_data\":\"\"}\n" for 1 .. 3' |
-    within $bound '' -- --status ok
+    within $bound 'l2fib-show: no capture fits --status ok (of 3)' -- --status ok
 
 # Text that is chosen by its status is not kept: 48 MB of it.
 perl -e 'print "{\"object\":\"ac\",\"view\":\"inconsistent\",\"show_data\":\"",

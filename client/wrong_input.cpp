@@ -1,0 +1,140 @@
+#include "client/wrong_input.h"
+
+#include "client/hex_dump.h"
+#include "client/show_data_file.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+namespace l2fib
+{
+
+using namespace std::string_view_literals;
+
+constexpr std::string_view blanks = " \t\r\n";
+constexpr std::string_view to_replay = " | l2fib-show replay -";
+
+/// What its bytes begin with, and the command that writes what was compressed.
+struct Compression {
+    const char *name;
+    std::string_view magic;
+    const char *command;
+};
+static constexpr Compression compressions[] = {
+    {"gzip", "\x1f\x8b\x08"sv, "zcat"},
+    {"xz",
+     "\xfd"
+     "7zXZ\0"sv,
+     "xzcat"},
+    {"zstd", "\x28\xb5\x2f\xfd"sv, "zstdcat"},
+};
+
+/// Whether the rest of a gzip header is one: its magic is too short to tell it from the number of a bridge.
+static bool is_gzip_header(std::string_view content)
+{
+    constexpr std::size_t shortest_file = 18;
+    constexpr unsigned char unused_flags = 0xe0;
+    constexpr std::size_t at_flags = 3;
+    constexpr std::size_t at_effort = 8;
+    constexpr std::size_t at_system = 9;
+    constexpr unsigned char last_system = 13;
+    const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(content[at]); };
+    return content.size() >= shortest_file && (byte(at_flags) & unused_flags) == 0 &&
+           (byte(at_effort) == 0 || byte(at_effort) == 2 || byte(at_effort) == 4) &&
+           (byte(at_system) <= last_system || byte(at_system) == 0xff);
+}
+
+/// Null when it is not compressed.
+static const Compression *compression_of(std::string_view content)
+{
+    for (const Compression &compression : compressions) {
+        if (content.starts_with(compression.magic) && (&compression != compressions || is_gzip_header(content))) {
+            return &compression;
+        }
+    }
+    return nullptr;
+}
+
+static std::string to_decompress(const Compression &compression, std::string_view then)
+{
+    return std::string(compression.name) + ": " + compression.command + " FILE" + std::string(then);
+}
+
+static bool is_text(std::string_view content)
+{
+    return std::all_of(content.begin(), content.end(),
+                       [](char c) { return (c >= ' ' && c <= '~') || c == '\n' || c == '\r' || c == '\t'; });
+}
+
+/// Whether a text has what no text has, whatever its encoding.
+static bool has_control_characters(std::string_view text)
+{
+    return std::any_of(text.begin(), text.end(),
+                       [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\r' && c != '\t'; });
+}
+
+static std::string_view trimmed(std::string_view text)
+{
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    return text.substr(0, text.find_last_not_of(blanks) + 1);
+}
+
+static std::string to_make_lines(bool is_array)
+{
+    return (is_array ? "an array: jq -c '.[]' FILE" : "JSON over several lines: jq -c . FILE") + std::string(to_replay);
+}
+
+/// What it is by itself, whatever was wanted.
+static std::string certain_form(std::string_view content)
+{
+    if (const Compression *compression = compression_of(content)) {
+        return to_decompress(*compression, " | l2fib-show ... -");
+    }
+    const std::string_view text = trimmed(content);
+    if (!text.starts_with('{') && !text.starts_with('[')) {
+        return {};
+    }
+    const bool is_array = text.front() == '[';
+    const std::string_view line = trimmed(text.substr(0, text.find('\n')));
+    if (!is_array && nlohmann::json::accept(line)) {
+        return "captures: use l2fib-show replay FILE";
+    }
+    const bool is_first_of_lines = line.size() == 1 && line.size() < text.size() && is_text(text);
+    return is_first_of_lines || nlohmann::json::accept(text) ? to_make_lines(is_array) : std::string();
+}
+
+std::string other_than_show_data(std::string_view content)
+{
+    std::string form = certain_form(content);
+    if (!form.empty() || trimmed(content).empty() || !is_text(content)) {
+        return form;
+    }
+    const HexBytes read = read_hex_dump(content, HexForm::any, longest_show_data);
+    return read.error.empty() ? "a hex dump: add --hex" : "text, not show data; as a hex dump: " + read.error;
+}
+
+std::string other_than_hex_dump(std::string_view content)
+{
+    std::string form = certain_form(content);
+    return form.empty() && has_control_characters(content) ? "bytes, not a hex dump: use --format raw" : form;
+}
+
+std::string other_than_captures(std::string_view line)
+{
+    for (const Compression &compression : compressions) { // a line may end before its header does
+        if (line.starts_with(compression.magic)) {
+            return to_decompress(compression, to_replay);
+        }
+    }
+    const std::string_view text = trimmed(line);
+    if (has_control_characters(text)) {
+        return "bytes, not captures: use l2fib-show OBJECT FILE for show data";
+    }
+    if (text.starts_with('[') || text == "{") {
+        return to_make_lines(text.front() == '[');
+    }
+    const bool is_hex = !text.empty() && read_hex_dump(text, HexForm::any, longest_show_data).error.empty();
+    return is_hex ? "a hex dump: use l2fib-show OBJECT --hex FILE" : "";
+}
+
+} // namespace l2fib
