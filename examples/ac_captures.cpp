@@ -44,7 +44,7 @@ static Bport bport(std::int32_t port, bool is_virtual)
     return bport;
 }
 
-static XidEntry vpls_xid_entry(XidEntry::Type type)
+static XidEntry vpls_xid_entry()
 {
     XidEntry entry{};
     set(entry.vpn_id, 0x2a);
@@ -53,7 +53,7 @@ static XidEntry vpls_xid_entry(XidEntry::Type type)
     set_flags(entry.translation, {XidEntry::ingress_translation});
     set_flags(entry.flags,
               {29, XidEntry::vpls, XidEntry::broadcast_storm_control, XidEntry::unknown_unicast_storm_control});
-    set(entry.type, type);
+    set(entry.type, XidEntry::type_bundle);
     set(entry.learn_count_limit, 4000);
     set(entry.learn_key, 7);
     set(entry.xc_id, 0x3);
@@ -86,15 +86,18 @@ static UidbEntry uidb_entry()
     constexpr UidbFlag pop_1_tag{112, 0x10};
     constexpr UidbFlag qos{114, 0x10};
     constexpr UidbFlag status{116, 0x40};
-    set_flags(entry, {bundle, l2, pop_1_tag, qos, status, UidbEntry::bd_lookup, UidbEntry::pre_tag_1_valid});
+    constexpr UidbFlag dhcp_snoop{106, 0x40};
+    constexpr UidbFlag igmp_snoop{107, 0x01};
+    set_flags(entry, {bundle, l2, pop_1_tag, qos, status, dhcp_snoop, igmp_snoop, UidbEntry::bd_lookup,
+                      UidbEntry::pre_tag_1_valid});
     return entry;
 }
 
-/// The AC belongs to a bundle on the first NP, and to no bundle on the others. The last NP has no bridge ports.
+/// The last NP is not flooded to, and has no bridge ports.
 static VplsNpRecord np_record(unsigned np)
 {
     VplsNpRecord record{};
-    record.xid = as_sent(vpls_xid_entry(np == 0 ? XidEntry::type_bundle : XidEntry::type_ac));
+    record.xid = as_sent(vpls_xid_entry());
     if (np < np_count - 1U) {
         set(record.bports_present, 1);
         record.bports[0] = as_sent(bport(3, false));
@@ -123,7 +126,7 @@ static BridgePortContext bridge_port()
     set(port.mac_limit, 4000);
     set(port.num_static_macs, 2);
     set(port.slot_mask[0], 0x05);
-    set(port.np_flood_mask, 0x0007);
+    set(port.np_flood_mask, 0x0003);
     set_flags(port.features.features,
               {FeatureFlags::storm_control_broadcast, FeatureFlags::storm_control_unknown_unicast});
     set(port.broadcast_rate, 640);

@@ -100,7 +100,7 @@ static BridgeDomainRecord bridge_domain_record(unsigned np)
     }
     set(domain.mgid_index, 0x51);
     set(domain.half_age, 1);
-    set(domain.learn_counter, 0x2010);
+    set(domain.learn_counter, 0x2010 + np);
     set(domain.evpn_counter, 0x77 << 8);
     set(domain.bvi_tcam_index, (0x40 + np) << 8);
     return domain;

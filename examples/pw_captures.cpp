@@ -84,6 +84,8 @@ std::vector<std::uint8_t> make_vpls_pw_ingress()
     set_flags(entry.flags, {XidEntry::vpls});
     set(entry.bridge_domain, 12);
     set(entry.shg, 1);
+    set(entry.learn_count_limit, 4000);
+    set(entry.learn_key, 9);
 
     ShowDataBuilder builder;
     builder.add(data).add(entry).add(entry).add(ingress_block());

@@ -62,7 +62,6 @@ static ResourceUse resource_use(std::uint32_t type, std::uint32_t np)
     ResourceUse use{};
     for (std::uint32_t i = 0; i < resource_operations; ++i) {
         set(use.operations[i].t_count, (type + 1) * 40 / (i + 1));
-        set(use.operations[i].f_count, np * i);
         set(use.operations[i].time, std::uint64_t{type + 1} * (i + 1) * 700'000'000 * (1 + std::uint64_t{300} * np));
     }
     set(use.in_use, (type + 1) * 25);
@@ -85,9 +84,9 @@ std::vector<std::uint8_t> make_resources()
     set(scan.events[6], 3);
     set(scan.states[10], 1);
     set(scan.sent[1], 12);
-    set(scan.responses[1], 11);
+    set(scan.responses[1], 12);
     set(scan.sent[10], 3);
-    set(scan.response_errors, 1);
+    set(scan.responses[10], 3);
     set(scan.responses_to_freed, 2);
 
     ResourceShowData head{};
