@@ -1,5 +1,6 @@
 // l2fib-show: prints saved show data as the router's show commands do.
 #include "client/capture_writer.h"
+#include "client/check/check.h"
 #include "client/command_line.h"
 #include "client/diagnostics.h"
 #include "client/replay.h"
@@ -176,10 +177,9 @@ static CLI::App *add_capture_command(CLI::App &app, Request &request)
     return &command;
 }
 
-static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options, RenderingOptions &rendering)
+/// The options that choose captures of files.
+static void add_selection(CLI::App &command, Selection &selection)
 {
-    CLI::App &command = *app.add_subcommand("replay", "Show the captures of files");
-    Selection &selection = options.selection;
     command.add_option("--object", selection.objects, "Only objects of this command; repeatable")
         ->check(one_of(names_of(objects())))
         ->type_name("OBJECT")
@@ -191,6 +191,13 @@ static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options, Rende
     add_number<std::uint32_t>(command, "--xid", selection.xid, "XID",
                               "Only objects of this cross-connect ID, with the 0x that screens have before it")
         ->transform(no_zeros_in_front());
+}
+
+static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options, RenderingOptions &rendering)
+{
+    CLI::App &command = *app.add_subcommand("replay", "Show the captures of files");
+    Selection &selection = options.selection;
+    add_selection(command, selection);
     command
         .add_option_function<std::string>(
             "--status", [&selection](const std::string &status) { selection.failed = status == "failed"; },
@@ -205,6 +212,23 @@ static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options, Rende
     add_rendering(command, rendering);
     command.get_option("--count")->excludes(command.get_option("--bytes"));
     add_example(command, "l2fib-show replay --object ac --status failed router.jsonl");
+    return &command;
+}
+
+static CLI::App *add_check_command(CLI::App &app, CheckOptions &options)
+{
+    CLI::App &command = *app.add_subcommand("check", "Find where NPs disagree, with each other or with the RP");
+    add_selection(command, options.selection);
+    command.add_flag("--all", options.all, "Report also what most often rightly differs from NP to NP");
+    command.add_flag("--json", options.json, "Print JSON, an object on each line, in place of text");
+    command.add_flag("--list-rules", options.list_rules, "Print what is checked, and why");
+    command
+        .add_option("FILE", options.files,
+                    "Captures, one a line; - for standard input (the default). Of an object that several files have, "
+                    "what is in all of them is reported")
+        ->type_name("");
+    command.footer("Exit status: 0 all agree, 1 some do not, 2 some could not be checked.\n\n"
+                   "Example:\n  l2fib-show check router.jsonl");
     return &command;
 }
 
@@ -296,6 +320,8 @@ static ExitStatus run(int argc, char **argv)
     const CLI::App *capture_command = add_capture_command(app, request);
     ReplayOptions replay_options;
     const CLI::App *replay_command = add_replay_command(app, replay_options, request.rendering);
+    CheckOptions check_options;
+    const CLI::App *check_command = add_check_command(app, check_options);
     const CLI::App *schema_command = app.add_subcommand("schema", "Print the JSON Schema of what --json prints");
     std::string help_subject;
     const CLI::App *help_command = add_help_command(app, help_subject);
@@ -319,6 +345,9 @@ static ExitStatus run(int argc, char **argv)
     }
     if (schema_command->parsed()) {
         return print(std::string(published_schema()));
+    }
+    if (check_command->parsed()) {
+        return check(check_options);
     }
     if (replay_command->parsed()) {
         replay_options.rendering = rendering_of(request.rendering);

@@ -22,7 +22,7 @@ std::uint32_t Renderer::show(Capture &capture, const Origin *origin)
     return rendering_.json ? show_json(capture, origin) : capture.show();
 }
 
-std::uint32_t Renderer::record(Capture &capture, recording::Recorder &recorder)
+std::uint32_t record_view(Capture &capture, recording::Recorder &recorder)
 {
     const recording::Recording recording(recorder);
     const std::span<std::uint8_t> data = capture.show_data;
@@ -52,7 +52,7 @@ std::uint32_t Renderer::show_json(Capture &capture, const Origin *origin)
     received_ = capture.show_data;
     open_line(capture, origin);
     json_recorder_.begin(capture.show_data, received_);
-    const std::uint32_t status = record(capture, json_recorder_);
+    const std::uint32_t status = record_view(capture, json_recorder_);
     json_recorder_.end();
     json_.member("status", std::uint64_t{status});
     json_.close_line();
@@ -63,7 +63,7 @@ std::uint32_t Renderer::show_bytes(Capture &capture, const Origin *origin)
 {
     received_ = capture.show_data;
     bytes_recorder_.begin(capture.show_data);
-    const std::uint32_t status = record(capture, bytes_recorder_);
+    const std::uint32_t status = record_view(capture, bytes_recorder_);
     if (!rendering_.json) {
         const auto own_colors = rendering_.colored ? std::make_optional<UnchangedText>() : std::nullopt;
         print_byte_table(bytes_recorder_, received_, rendering_.colored);

@@ -20,6 +20,10 @@ struct Origin {
     std::size_t line;
 };
 
+/// Has a recorder take down what the view of a capture says. The show data is converted on the way. Returns the
+/// library's status.
+std::uint32_t record_view(Capture &capture, recording::Recorder &recorder);
+
 /// Shows captures on standard output, one after the other.
 class Renderer
 {
@@ -37,7 +41,6 @@ public:
 
 private:
     void open_line(const Capture &capture, const Origin *origin);
-    std::uint32_t record(Capture &capture, recording::Recorder &recorder);
     std::uint32_t show_json(Capture &capture, const Origin *origin);
     std::uint32_t show_bytes(Capture &capture, const Origin *origin);
     void write_runs();

@@ -209,14 +209,24 @@ static Statement statement_of(const CheckedView &view, const TreeValue &value, c
             bytes};
 }
 
+/// A table can have hundreds of lines that are wrong in the same way: the first ones tell.
+static void add_statement(Finding &finding, Statement statement)
+{
+    constexpr std::size_t most = 12;
+    if (finding.statements.size() < most) {
+        finding.statements.push_back(std::move(statement));
+    } else if (finding.statements.size() == most) {
+        finding.statements.push_back({{"others"}, "too", std::nullopt, true, "", std::nullopt});
+    }
+}
+
 void FactCheck::check_at_most(const Fact &fact)
 {
     Finding finding{};
     view_->for_each(pattern_of(fact.places[0].path), [&](const TreeValue &value) {
         const TreeValue *limit = view_->in_section(value.section, last_of(fact.places[1].path));
         if (limit != nullptr && limit->number < value.number) {
-            finding.statements.push_back(
-                statement_of(*view_, value, text_of(value) + " of at most " + text_of(*limit)));
+            add_statement(finding, statement_of(*view_, value, text_of(value) + " of at most " + text_of(*limit)));
         }
     });
     if (!finding.statements.empty()) {
@@ -230,7 +240,7 @@ void FactCheck::check_zero(const Fact &fact)
     Finding finding{};
     view_->for_each(pattern_of(fact.places[0].path), [&](const TreeValue &value) {
         if (value.number != 0) {
-            finding.statements.push_back(statement_of(*view_, value, text_of(value)));
+            add_statement(finding, statement_of(*view_, value, text_of(value)));
         }
     });
     if (!finding.statements.empty()) {

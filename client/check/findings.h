@@ -28,7 +28,7 @@ struct Statement {
     std::optional<std::uint64_t> number; ///< that the text stands for, when it is no number itself
     bool is_odd = false;                 ///< others say something else, and are more
     std::string path;                    ///< of the first party's value in the JSON of the view
-    std::optional<ByteRange> bytes;          ///< of it
+    std::optional<ByteRange> bytes;      ///< of it
 };
 
 struct Finding {

@@ -188,7 +188,8 @@ void NpComparison::compare_word(std::size_t row)
 void NpComparison::compare_row(std::size_t row)
 {
     const TreeValue &value = view_->first_of_row(row);
-    if (coverage_->has_row(row) || !value.place || value.place->record == nullptr || !differs(row)) {
+    const bool is_their_number = value.key == "np";
+    if (is_their_number || coverage_->has_row(row) || !value.place || value.place->record == nullptr || !differs(row)) {
         return;
     }
     if (std::any_of(decided_.begin(), decided_.end(),
