@@ -100,17 +100,6 @@ private:
     Repeated repeated_;
 };
 
-/// Why a view shows less than the object is; empty when it shows all of it.
-static std::string reason_not_to_check(const recording::Tree &tree, std::uint32_t status)
-{
-    for (const recording::FailureNote &failure : tree.failures()) {
-        if (failure.there && failure.needed) {
-            return std::to_string(*failure.there) + " of " + std::to_string(*failure.needed) + " bytes";
-        }
-    }
-    return status == 0 ? "" : text_of_status(status);
-}
-
 bool Check::take(Capture &capture, const CapturePlace &place)
 {
     received_ = capture.show_data;

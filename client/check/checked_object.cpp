@@ -1,5 +1,6 @@
 #include "client/check/checked_object.h"
 
+#include "client/diagnostics.h"
 #include "zel_l2fib/show.h"
 
 #include <algorithm>
@@ -54,6 +55,20 @@ std::string name_of(const Capture &capture, std::optional<std::uint32_t> xid, co
             capture.shown_view() == capture.object->default_view ? "" : std::string(" ") + capture.shown_view()->name;
     }
     return name;
+}
+
+std::string reason_not_to_check(const recording::Tree &tree, std::uint32_t status)
+{
+    const auto failures = tree.failures();
+    for (std::size_t i = 0; i < failures.size(); ++i) {
+        if (failures[i].there && failures[i].needed) {
+            return std::to_string(*failures[i].there) + " of " + std::to_string(*failures[i].needed) + " bytes";
+        }
+        if (!tree.sections()[tree.section_of_failure(i)].np) {
+            return failures[i].text;
+        }
+    }
+    return status == 0 ? "" : text_of_status(status);
 }
 
 } // namespace l2fib

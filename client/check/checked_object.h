@@ -24,4 +24,7 @@ struct CheckedObject {
 /// data as received.
 std::string name_of(const Capture &capture, std::optional<std::uint32_t> xid, const recording::Tree &tree);
 
+/// Why a view shows less than the object is; empty when it shows all of it.
+std::string reason_not_to_check(const recording::Tree &tree, std::uint32_t status);
+
 } // namespace l2fib

@@ -209,6 +209,12 @@ std::optional<std::size_t> CheckedView::offset_of(std::size_t row, std::size_t n
     return std::nullopt;
 }
 
+std::string CheckedView::path_in_np(const TreeValue &value, std::size_t np) const
+{
+    const std::string own = tree_->path_of(np_sections_[np_of_section_[value.section]]);
+    return tree_->path_of(np_sections_[np]) + tree_->path_of(value).substr(own.size());
+}
+
 std::optional<std::size_t> CheckedView::row_of(const TreeValue &value) const
 {
     if (nps() < 2 || np_of_section_[value.section] == KeyIndex::none) {

@@ -75,6 +75,9 @@ public:
 
     [[nodiscard]] std::uint32_t np_section(std::size_t np) const { return np_sections_[np]; }
 
+    /// The path that a value of an NP has in another NP.
+    [[nodiscard]] std::string path_in_np(const recording::TreeValue &value, std::size_t np) const;
+
     /// Whether two rows are of the same section of the NPs.
     [[nodiscard]] bool are_of_a_section(std::size_t row, std::size_t other) const
     {

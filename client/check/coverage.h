@@ -32,7 +32,8 @@ public:
                            [&](const Bit &covered) { return covered.row == row && covered.bit == bit; });
     }
 
-    /// Adds a finding, unless all that is odd in it has been reported.
+    /// Adds a finding, unless something that is odd in it has been reported. Of a word of flags, each is a fact of its
+    /// own.
     void add(Finding finding, bool is_of_bits = false);
 
     [[nodiscard]] const std::vector<Finding> &findings() const { return findings_; }
@@ -44,7 +45,7 @@ private:
     };
     std::vector<bool> rows_;
     std::vector<Bit> bits_;
-    std::vector<std::size_t> offsets_; ///< of whole values that were odd
+    std::vector<std::size_t> offsets_; ///< of what was odd
     std::vector<Finding> findings_;
 };
 

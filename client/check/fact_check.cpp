@@ -53,7 +53,7 @@ void FactCheck::collect_shown(const FactPlace &place, const TreeValue &value)
     const auto bytes = value.place ? std::optional(ByteRange{value.place->offset, value.width}) : std::nullopt;
     if (place.bit == FactPlace::all_bits) {
         if (value.has_number) {
-            said_.push_back({value.section, &value, comparable(value), "", "", bytes});
+            said_.push_back({value.section, &value, comparable(value), "", "", bytes, ""});
         }
         return;
     }
@@ -61,7 +61,7 @@ void FactCheck::collect_shown(const FactPlace &place, const TreeValue &value)
     if (bytes && bit < 8 * bytes->width) {
         const bool is_set = (view_->received()[bytes->offset + bit / 8] >> (7 - bit % 8) & 1U) != 0;
         const bool is_on = is_set != place.is_inverted;
-        said_.push_back({value.section, &value, is_on ? 1U : 0U, is_on ? "on" : "off", "", bytes});
+        said_.push_back({value.section, &value, is_on ? 1U : 0U, is_on ? "on" : "off", "", bytes, ""});
     }
 }
 
@@ -86,7 +86,7 @@ void FactCheck::collect_hidden(const FactPlace &place)
         number = (view_->received()[held->offset + bit / 8] >> (7 - bit % 8) & 1U) != 0 ? 1 : 0;
         text = number != 0 ? "on" : "off";
     }
-    said_.push_back({index, nullptr, number, text, "", ByteRange{held->offset, held->width}});
+    said_.push_back({index, nullptr, number, text, "", ByteRange{held->offset, held->width}, place.path});
 }
 
 /// An NP that shows no such line, as some do when a number is 0, holds the field all the same.
@@ -103,7 +103,8 @@ void FactCheck::collect_nps_that_hide(const TreeValue &shown)
         const auto offset = view_->offset_of(*row, np);
         if (view_->cell(*row, np) == nullptr && offset) {
             const std::uint64_t number = view_->number_at(*offset, shown.width, shown.place->field->kind);
-            said_.push_back({view_->np_section(np), nullptr, number, "", "", ByteRange{*offset, shown.width}});
+            said_.push_back({view_->np_section(np), nullptr, number, "", "", ByteRange{*offset, shown.width},
+                             view_->path_in_np(shown, np)});
         }
     }
 }
@@ -155,6 +156,10 @@ void FactCheck::say(const Fact &fact, std::span<const Said> said)
     std::string hex; // as another place shows the number
     for (Said &one : told) {
         one.part = part_of(*view_, one.section);
+        one.part = one.part.empty() && one.value != nullptr ? std::string(one.value->key) : one.part;
+        if (fact.places[0].bit != FactPlace::all_bits && one.text.empty()) {
+            one.text = one.number != 0 ? "on" : "off"; // a value that goes with the flags of others
+        }
         const std::string text = one.value == nullptr ? "" : text_of(*one.value);
         hex = text.starts_with("0x") ? text : hex;
     }

@@ -104,8 +104,13 @@ static std::uint32_t section_below(const CheckedView &view, std::uint32_t outer,
     return KeyIndex::none;
 }
 
-/// What an NP says of a kind of traffic, compared with what is configured. Empty when it goes together.
-static std::string fault_of_traffic(const CheckedView &view, std::uint32_t configured, std::uint32_t row)
+/// What is wrong with a kind of traffic on an NP, and the value that says so.
+struct TrafficFault {
+    std::string text; ///< empty when it goes together
+    const TreeValue *value;
+};
+
+static TrafficFault fault_of_traffic(const CheckedView &view, std::uint32_t configured, std::uint32_t row)
 {
     constexpr std::uint64_t is_configured = 3;
     const TreeValue *enabled = view.in_section(configured, "enabled");
@@ -113,39 +118,32 @@ static std::string fault_of_traffic(const CheckedView &view, std::uint32_t confi
     const TreeValue *status = view.in_section(row, "status");
     const TreeValue *rate = view.in_section(row, "rate");
     if (enabled == nullptr || status == nullptr) {
-        return {};
+        return {{}, nullptr};
     }
     if ((enabled->number != 0) != (status->number == is_configured)) {
-        return std::string(enabled->number != 0 ? "enabled" : "disabled") + ", but " + std::string(status->text);
+        return {std::string(enabled->number != 0 ? "enabled" : "disabled") + ", but " + std::string(status->text),
+                status};
     }
     const bool are_other_bytes = limit != nullptr && rate != nullptr && limit->place && rate->place &&
                                  limit->place->offset != rate->place->offset;
     if (are_other_bytes && limit->number != rate->number) {
-        return "limit " + text_of(*limit) + ", but " + text_of(*rate);
+        return {"limit " + text_of(*limit) + ", but " + text_of(*rate), rate};
     }
-    return {};
+    return {{}, nullptr};
 }
 
 static void check_storm_control_in(const CheckedView &view, std::uint32_t section, Finding &finding)
 {
     const auto sections = view.tree().sections();
+    const auto say = [&](std::string text, std::string path, std::optional<ByteRange> bytes) {
+        finding.statements.push_back(
+            {{party_of(view, section)}, std::move(text), std::nullopt, true, std::move(path), bytes});
+    };
     std::uint32_t row = section_below(view, section, "traffic");
     const std::uint32_t broadcast = section_below(view, section, "broadcast");
     const TreeValue *enabled = broadcast == KeyIndex::none ? nullptr : view.in_section(broadcast, "enabled");
-    const auto say = [&](std::uint32_t at, const std::string &text) {
-        const TreeValue *status = view.in_section(at, "status");
-        finding.statements.push_back({{party_of(view, section)},
-                                      text,
-                                      std::nullopt,
-                                      true,
-                                      view.tree().path_of(at),
-                                      status == nullptr ? std::nullopt : bytes_of(*status)});
-    };
-    if (row == KeyIndex::none) {
-        if (enabled != nullptr && enabled->number != 0) {
-            say(section, "Broadcast: enabled, but not applied");
-        }
-        return;
+    if (row == KeyIndex::none && enabled != nullptr && enabled->number != 0) {
+        say("Broadcast: enabled, but not applied", view.tree().path_of(section), std::nullopt);
     }
     for (; row < sections.size() && sections[row].parent == section; ++row) {
         const TreeValue *type = view.in_section(row, "type");
@@ -154,8 +152,10 @@ static void check_storm_control_in(const CheckedView &view, std::uint32_t sectio
             if (type == nullptr || type->text != kind.name || configured == KeyIndex::none) {
                 continue;
             }
-            if (const std::string fault = fault_of_traffic(view, configured, row); !fault.empty()) {
-                say(row, std::string(kind.name) + ": " + fault);
+            const TrafficFault fault = fault_of_traffic(view, configured, row);
+            if (fault.value != nullptr) {
+                say(std::string(kind.name) + ": " + fault.text, view.tree().path_of(*fault.value),
+                    bytes_of(*fault.value));
             }
         }
     }

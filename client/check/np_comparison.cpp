@@ -1,5 +1,7 @@
 #include "client/check/np_comparison.h"
 
+#include "client/hex_digits.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -88,7 +90,7 @@ void NpComparison::say_values(std::size_t row, Finding told)
         const std::string hidden =
             value == nullptr ? std::to_string(view_->number_at(*offset, like.width, like.place->field->kind)) : "";
         said.push_back({value == nullptr ? view_->np_section(np) : value->section, value, number, hidden, "",
-                        ByteRange{*offset, like.width}});
+                        ByteRange{*offset, like.width}, view_->path_in_np(like, np)});
     }
     if (auto finding = disagreement(*view_, said)) {
         for (Statement &statement : finding->statements) {
@@ -122,13 +124,13 @@ std::string NpComparison::flags_of(std::size_t row, std::size_t np, std::span<co
         return list;
     }
     const auto offset = view_->offset_of(row, np);
+    bool is_clear = true;
     for (std::size_t i = 0; offset && i < mask.size(); ++i) {
-        constexpr std::string_view digits = "0123456789abcdef";
-        const std::uint8_t byte = view_->received()[*offset + i] & mask[i];
-        list += digits[byte >> 4U];
-        list += digits[byte & 0xfU];
+        const auto byte = static_cast<std::uint8_t>(view_->received()[*offset + i] & mask[i]);
+        is_clear = is_clear && byte == 0;
+        list += hex_of_bytes({byte});
     }
-    return "0x" + list;
+    return is_clear ? "none" : "0x" + list;
 }
 
 void NpComparison::say_flags(std::size_t row, std::span<const std::uint8_t> mask, Finding told)
@@ -151,7 +153,7 @@ void NpComparison::say_flags(std::size_t row, std::span<const std::uint8_t> mask
         }
         const TreeValue *word = view_->cell(row, np);
         said.push_back({word == nullptr ? view_->np_section(np) : word->section, word, number, flags_of(row, np, mask),
-                        "", ByteRange{*offset, mask.size()}});
+                        "", ByteRange{*offset, mask.size()}, view_->path_in_np(view_->first_of_row(row), np)});
     }
     if (auto finding = disagreement(*view_, said)) {
         told.who = finding->who;

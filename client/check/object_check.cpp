@@ -22,6 +22,12 @@ void ObjectCheck::check_failures(const CheckedView &view)
     }
 }
 
+bool has_like_nps(const Object &object)
+{
+    const std::string_view name = object.name;
+    return name == "ac" || name == "pw" || name == "bridge";
+}
+
 const std::vector<Finding> &ObjectCheck::check(const Object &object, const CheckedView &view)
 {
     coverage_.begin(view.rows());
@@ -38,8 +44,7 @@ const std::vector<Finding> &ObjectCheck::check(const Object &object, const Check
             check.check(view, check, coverage_);
         }
     }
-    const std::string_view name = object.name;
-    if (name == "ac" || name == "pw" || name == "bridge") {
+    if (has_like_nps(object)) {
         nps_.compare();
     }
     return coverage_.findings();

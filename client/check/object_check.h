@@ -8,6 +8,9 @@
 namespace l2fib
 {
 
+/// Whether the NPs hold the same of an object. Of resources and counters, each has its own.
+bool has_like_nps(const Object &object);
+
 class ObjectCheck
 {
 public:

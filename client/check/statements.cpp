@@ -34,11 +34,15 @@ std::string part_of(const CheckedView &view, std::uint32_t section)
     std::string part;
     for (std::uint32_t at = section; at != 0 && sections[at].parent != 0; at = sections[at].parent) {
         const TreeSection &part_at = sections[at];
-        if (part_at.is_element && std::string_view(part_at.key).ends_with("nps")) {
-            const TreeSection &outer = sections[part_at.parent];
-            return outer.parent == 0 ? part : std::string(outer.key) + (part.empty() ? "" : "." + part);
+        const bool is_np = part_at.is_element && std::string_view(part_at.key).ends_with("nps");
+        if (is_np && part_at.pattern == recording::pattern_of("hw.nps[]")) {
+            return part;
         }
         std::string name = part_at.key;
+        if (is_np) {
+            name = sections[part_at.parent].parent == 0 ? name : sections[part_at.parent].key;
+            return part.empty() ? name : name + '.' + part;
+        }
         name += part_at.is_element ? '[' + std::to_string(part_at.index) + ']' : "";
         part = part.empty() ? name : name + '.' + part;
     }
@@ -140,7 +144,7 @@ static Statement statement_of(const CheckedView &view, const Group &group, bool 
         statement.number = first.number;
     }
     statement.is_odd = is_odd;
-    statement.path = first.value != nullptr ? view.tree().path_of(*first.value) : view.tree().path_of(first.section);
+    statement.path = first.value != nullptr && first.path.empty() ? view.tree().path_of(*first.value) : first.path;
     statement.bytes = first.bytes;
     return statement;
 }
@@ -160,9 +164,9 @@ std::optional<Finding> disagreement(const CheckedView &view, std::span<const Sai
     Finding finding{};
     std::vector<std::string> odd;
     for (const Group &group : groups) {
-        const bool is_odd = has_majority && &group != &*largest;
+        const bool is_odd = !has_majority || &group != &*largest;
         finding.statements.push_back(statement_of(view, group, is_odd));
-        if (is_odd || !has_majority) {
+        if (is_odd) {
             odd.insert(odd.end(), group.parties.begin(), group.parties.end());
         }
     }

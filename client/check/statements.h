@@ -15,6 +15,7 @@ struct Said {
     std::string text;                  ///< empty for the text of the value
     std::string part;                  ///< "uidb": tells the places of a party from each other
     std::optional<ByteRange> bytes;
+    std::string path; ///< in the JSON of the view; empty for that of the value
 };
 
 /// Who has a section: "RP", "NP1", "HAL", "line card".
