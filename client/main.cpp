@@ -1,6 +1,7 @@
 // l2fib-show: prints saved show data as the router's show commands do.
 #include "client/capture_writer.h"
 #include "client/command_line.h"
+#include "client/completion.h"
 #include "client/diagnostics.h"
 #include "client/replay.h"
 #include "client/schema.h"
@@ -16,6 +17,7 @@
 #include <limits>
 #include <new>
 #include <optional>
+#include <span>
 #include <sstream>
 #include <unistd.h>
 
@@ -300,6 +302,10 @@ static ExitStatus run(int argc, char **argv)
     std::string help_subject;
     const CLI::App *help_command = add_help_command(app, help_subject);
     take_no_arguments(app);
+    const std::span<const char *const> words(argv, static_cast<std::size_t>(argc));
+    if (words.size() > 1 && words[1] == std::string_view("--complete")) { // the shells ask
+        return print(completions(app, words.subspan(2)));
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success &asked) {
