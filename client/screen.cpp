@@ -23,10 +23,9 @@ static HarmlessText harmless_text;
 /// Whether messages appear among the text.
 static bool have_same_place()
 {
-    struct stat out {
-    };
-    struct stat err {
-    };
+    using FileStatus = struct stat;
+    FileStatus out{};
+    FileStatus err{};
     return (isatty(STDOUT_FILENO) != 0 && isatty(STDERR_FILENO) != 0) ||
            (fstat(STDOUT_FILENO, &out) == 0 && fstat(STDERR_FILENO, &err) == 0 && out.st_dev == err.st_dev &&
             out.st_ino == err.st_ino);

@@ -40,6 +40,9 @@ expect 0 "$screen" '' -- ac --ingress --view detail --node 3 --card 0x1e1005 "$c
 expect 0 "$source/tests/screens/vpls-ac-egress.txt" '' -- ac --egress --hex vpls-ac-egress.hex
 expect 0 card.txt '' -- ac --card 0x1e1004 "$capture"
 expect 1 short.txt 'l2fib-show: status 0x46258800: show data malformed or too short' -- ac short
+printf 00 >digits
+printf '\nzel_l2fib_print_internal: data_size is 2, expecting at least 106' >digits.txt
+expect 1 digits.txt 'l2fib-show: status 0x46258800: show data malformed or too short' -- ac --format raw digits
 printf '%s\n' '{"object":"ac","node":10,"card":"0x11","direction":"ingress","view":"detail","monotonic_seconds":7,' \
     '"wall_seconds":8,"time_zone":"UTC0","virtual_interfaces":["0x9","0xa"],"show_data":"00"}' | paste -sd '\0' >numbers
 printf '\000' >zero
