@@ -2,6 +2,7 @@
 
 #include "client/harmless_text.h"
 
+#include <array>
 #include <cerrno>
 #include <string_view>
 #include <sys/stat.h>
@@ -70,7 +71,9 @@ Screen::Screen()
     }
     is_made_harmless = is_terminal;
     if (is_terminal) {
-        std::setvbuf(screen_stream, nullptr, _IOLBF, BUFSIZ);
+        static std::array<char, 1024>
+            lines; // as for any terminal: in a longer one, each line would be written by itself
+        std::setvbuf(screen_stream, lines.data(), _IOLBF, lines.size());
     }
     own_ = std::exchange(stdout, screen_stream); // glibc lets stdout be another stream for a while
 }
