@@ -9,11 +9,13 @@
 namespace l2fib
 {
 
+constexpr std::string_view between_words = ", ";
+
 static std::string listed(const std::vector<std::string> &words)
 {
     std::string list;
     for (const std::string &word : words) {
-        list += list.empty() ? word : ", " + word;
+        list.append(list.empty() ? "" : between_words).append(word);
     }
     return list;
 }
@@ -25,7 +27,24 @@ CLI::Validator one_of(const std::vector<std::string> &words)
                    ? std::string()
                    : spelled_out(given) + " is none of " + listed(words) + did_you_mean(given, words);
     };
-    return {[check](std::string &given) { return check(given); }, ""};
+    return {[check](std::string &given) { return check(given); }, "",
+            listed(words)}; // by its name, words_of finds them
+}
+
+std::vector<std::string> words_of(CLI::Option &option)
+{
+    std::string list;
+    try {
+        list = option.get_validator(0)->get_name();
+    } catch (const CLI::OptionNotFound &) {
+        return {}; // nothing checks it
+    }
+    std::vector<std::string> words;
+    while (!list.empty()) {
+        words.push_back(list.substr(0, list.find(between_words)));
+        list.erase(0, words.back().size() + between_words.size());
+    }
+    return words;
 }
 
 CLI::Validator number_up_to(std::uint64_t highest)

@@ -13,6 +13,9 @@ namespace l2fib
 /// Has an option's argument be one of some words.
 CLI::Validator one_of(const std::vector<std::string> &words);
 
+/// The words that an option's argument has to be one of; none when it may be anything.
+std::vector<std::string> words_of(CLI::Option &option);
+
 /// Has an option's argument be a number as captures have it. CLI11 is handed it in plain decimal: by its own rules, a
 /// number that begins with 0 is octal.
 CLI::Validator number_up_to(std::uint64_t highest);

@@ -2,6 +2,7 @@
 #include "client/capture_writer.h"
 #include "client/check/check.h"
 #include "client/command_line.h"
+#include "client/completion.h"
 #include "client/diagnostics.h"
 #include "client/replay.h"
 #include "client/schema.h"
@@ -17,6 +18,7 @@
 #include <limits>
 #include <new>
 #include <optional>
+#include <span>
 #include <sstream>
 #include <unistd.h>
 
@@ -326,6 +328,10 @@ static ExitStatus run(int argc, char **argv)
     std::string help_subject;
     const CLI::App *help_command = add_help_command(app, help_subject);
     take_no_arguments(app);
+    const std::span<const char *const> words(argv, static_cast<std::size_t>(argc));
+    if (words.size() > 1 && words[1] == std::string_view("--complete")) { // the shells ask
+        return print(completions(app, words.subspan(2)));
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success &asked) {

@@ -2,6 +2,7 @@
 
 #include "client/harmless_text.h"
 
+#include <array>
 #include <cerrno>
 #include <string_view>
 #include <sys/stat.h>
@@ -23,10 +24,9 @@ static HarmlessText harmless_text;
 /// Whether messages appear among the text.
 static bool have_same_place()
 {
-    struct stat out {
-    };
-    struct stat err {
-    };
+    using FileStatus = struct stat;
+    FileStatus out{};
+    FileStatus err{};
     return (isatty(STDOUT_FILENO) != 0 && isatty(STDERR_FILENO) != 0) ||
            (fstat(STDOUT_FILENO, &out) == 0 && fstat(STDERR_FILENO, &err) == 0 && out.st_dev == err.st_dev &&
             out.st_ino == err.st_ino);
@@ -71,7 +71,9 @@ Screen::Screen()
     }
     is_made_harmless = is_terminal;
     if (is_terminal) {
-        std::setvbuf(screen_stream, nullptr, _IOLBF, BUFSIZ);
+        static std::array<char, 1024>
+            lines; // as for any terminal: in a longer one, each line would be written by itself
+        std::setvbuf(screen_stream, lines.data(), _IOLBF, lines.size());
     }
     own_ = std::exchange(stdout, screen_stream); // glibc lets stdout be another stream for a while
 }

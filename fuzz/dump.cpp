@@ -1,7 +1,8 @@
 // Proves that any text can be read as a dump in every form, never makes more bytes than were asked for, and that bytes
-// written in plain hex are read as the same bytes.
+// written in plain hex are read as the same bytes; and that it can be told from show data, which begins with a zero.
 #include "client/hex_digits.h"
 #include "client/hex_dump.h"
+#include "client/wrong_input.h"
 #include "fuzz/target.h"
 
 namespace l2fib
@@ -19,6 +20,15 @@ static void check(std::string_view text, HexForm form, std::size_t longest)
     }
 }
 
+static void check_form(std::string_view text)
+{
+    other_than_show_data(text);
+    other_than_hex_dump(text);
+    other_than_captures(text);
+    require(other_than_show_data(std::string(1, '\0').append(text)).empty(),
+            "show data is not taken for anything else");
+}
+
 } // namespace l2fib
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
@@ -32,5 +42,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     for (const HexForm form : {HexForm::any, HexForm::plain, HexForm::xxd, HexForm::hexdump}) {
         l2fib::check(text, form, longest);
     }
+    l2fib::check_form(text);
     return 0;
 }

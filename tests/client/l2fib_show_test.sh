@@ -40,6 +40,9 @@ expect 0 "$screen" '' -- ac --ingress --view detail --node 3 --card 0x1e1005 "$c
 expect 0 "$source/tests/screens/vpls-ac-egress.txt" '' -- ac --egress --hex vpls-ac-egress.hex
 expect 0 card.txt '' -- ac --card 0x1e1004 "$capture"
 expect 1 short.txt 'l2fib-show: status 0x46258800: show data malformed or too short' -- ac short
+printf 00 >digits
+printf '\nzel_l2fib_print_internal: data_size is 2, expecting at least 106' >digits.txt
+expect 1 digits.txt 'l2fib-show: status 0x46258800: show data malformed or too short' -- ac --format raw digits
 printf '%s\n' '{"object":"ac","node":10,"card":"0x11","direction":"ingress","view":"detail","monotonic_seconds":7,' \
     '"wall_seconds":8,"time_zone":"UTC0","virtual_interfaces":["0x9","0xa"],"show_data":"00"}' | paste -sd '\0' >numbers
 printf '\000' >zero
@@ -179,7 +182,7 @@ colors() { # WANTED WHERE ENVIRONMENT OPTION...: whether the bytes have colours
     terminal) script -qec "$command" /dev/null >colored </dev/null ;;
     esac
     grep -q "$(printf '\033')" colored && has=yes || has=no
-    if [ $has != "$wanted" ] || ! sed 's/\x1b\[[0-9]*m//g; s/\r$//' colored | cmp - "$bytes"; then
+    if [ "$has" != "$wanted" ] || ! sed 's/\x1b\[[0-9]*m//g; s/\r$//' colored | cmp - "$bytes"; then
         echo "$environment replay --bytes $*, on a $where: colours: $has"
         failures=$((failures + 1))
     fi
@@ -248,7 +251,7 @@ if [ "$(cat status)" -ne 2 ] || [ "$(cat stderr)" != 'l2fib-show: standard outpu
     cat stderr
     failures=$((failures + 1))
 fi
-for i in 1 2 3 4 5 6 7 8; do cat "$source/examples/resources.jsonl" "$source/examples/resources.jsonl"; done >many
+for _ in 1 2 3 4 5 6 7 8; do cat "$source/examples/resources.jsonl" "$source/examples/resources.jsonl"; done >many
 for form in '' --json --bytes; do
     ("$show" replay $form many 2>stderr; echo $? >status) | head -c 1 >/dev/null
     if [ "$(cat status)" -ne 141 ] || [ -s stderr ]; then
@@ -266,16 +269,26 @@ done
 "$show" --version >help.txt
 expect 0 help.txt '' -- -V
 
-# The manual and the completion know every option.
+# The manual knows every option.
 for command in '' $("$show" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z-]*\) .*/\1/p'); do
-    for option in $("$show" $command --help | grep -oE '^ +(-[a-zA-Z],)?--[a-z-]+' | sed 's/.*--//'); do
-        if ! grep -q -- "--$option" "$source/completions/l2fib-show" ||
-            ! grep -qE -- "Fl -$option( |\$)" "$source/docs/man/l2fib-show.1"; then
-            echo "--$option of l2fib-show $command is not in the manual or not in the completion"
+    for option in $("$show" ${command:+"$command"} --help | grep -oE '^ +(-[a-zA-Z],)?--[a-z-]+' | sed 's/.*--//'); do
+        if ! grep -qE -- "Fl -$option( |\$)" "$source/docs/man/l2fib-show.1"; then
+            echo "--$option of l2fib-show $command is not in the manual"
             failures=$((failures + 1))
         fi
     done
 done
+
+# What shells are told that may come next.
+echo FILE >file.txt
+expect 0 file.txt '' -- --complete replay --node 1 a.jsonl ''
+expect 0 empty '' -- --complete replay --node ''
+expect 0 empty '' -- --complete capture ac ac.bin ''
+expect 0 empty '' -- --complete schema ''
+printf -- '%s\n' --color=auto --color=always >words.txt
+expect 0 words.txt '' -- --complete ac --json --color=a
+printf 'replay\tShow the captures of files\n' >words.txt
+expect 0 words.txt '' -- --complete rep
 
 if ! "$show" ac - <"$capture" | cmp - "$screen"; then
     echo "standard input does not show what the file shows"

@@ -9,6 +9,7 @@ failures=0
 within() {
     limit=$(($1 * 1024)) text=$2
     shift 3
+    # shellcheck disable=SC3045 # Debian's sh has it
     (ulimit -v $limit && "$show" replay "$@") >"${to:-stdout}" 2>stderr
     status=$?
     if [ "$(cat stderr)" != "$text" ]; then
