@@ -6,6 +6,15 @@ build=$1 source=$2 libdir=$3
 work=$(mktemp -d) && cd "$work"
 trap 'rm -rf "$work"' EXIT
 
+if [ "${libdir#/}" != "$libdir" ]; then # given as an absolute path: it cannot be moved, but be found in another root
+    DESTDIR=$work cmake --install "$build" >/dev/null
+    export PKG_CONFIG_SYSROOT_DIR="$work" PKG_CONFIG_LIBDIR="$work$libdir/pkgconfig"
+    # shellcheck disable=SC2046
+    cc -o client "$source/tests/install/client.c" $(pkg-config --cflags --libs zel_l2fib)
+    test "$(LD_LIBRARY_PATH=$work$libdir ./client)" = 1
+    exit
+fi
+
 cmake --install "$build" --prefix "$work/staged" >/dev/null
 prefix=$work/prefix
 mv staged "$prefix"
@@ -36,6 +45,10 @@ compile() {
 echo 1 >stand_in
 echo 0 >own
 
+# A build for /usr names no run path: its libraries are where the loader looks.
+if grep -q '^CMAKE_INSTALL_PREFIX:PATH=/usr$' "$build/CMakeCache.txt"; then
+    export LD_LIBRARY_PATH="$libraries"
+fi
 expect "l2fib-show" "$source/tests/screens/local-mac.txt" \
     "$prefix/bin/l2fib-show" replay "$prefix/share/doc/zel_l2fib/examples/local-mac.jsonl"
 

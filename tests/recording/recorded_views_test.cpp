@@ -32,7 +32,7 @@ static void use_whole(const UseCapture &use)
     }
     std::mt19937 random;
     Capture noise = samples().front();
-    for (const std::size_t size : {10, 100, 1000, 10000}) {
+    for (const std::size_t size : {10U, 100U, 1000U, 10000U}) {
         noise.show_data.resize(size);
         for (std::uint8_t &byte : noise.show_data) {
             byte = static_cast<std::uint8_t>(random());
