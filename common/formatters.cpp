@@ -83,7 +83,8 @@ Text elapsed_of(std::uint64_t ns)
 static int store(const Text &text, char *room, std::size_t capacity)
 {
     if (capacity != 0) {
-        const std::size_t fitting = text.view().copy(room, capacity - 1);
+        const std::size_t fitting = std::min(text.size, capacity - 1);
+        std::memcpy(room, text.chars, fitting);
         room[fitting] = '\0';
     }
     return static_cast<int>(text.size);

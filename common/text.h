@@ -1,7 +1,9 @@
 // Short texts that are made when they are printed.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <string_view>
 
 namespace l2fib
@@ -12,7 +14,7 @@ struct Text {
     static constexpr std::size_t capacity = 64;
 
     Text() = default;
-    Text(std::string_view text) : size(text.copy(chars, capacity)) {}
+    Text(std::string_view text) : size(std::min(text.size(), capacity)) { std::memcpy(chars, text.data(), size); }
 
     [[nodiscard]] std::string_view view() const { return {chars, size}; }
 

@@ -1,5 +1,7 @@
 #include "common/working_copies.h"
 
+#include <cstdlib>
+
 namespace l2fib
 {
 
@@ -10,6 +12,11 @@ void *obtain_bytes(std::size_t size, std::uint8_t fill)
         std::memset(bytes, fill, size);
     }
     return bytes;
+}
+
+void release_bytes(void *bytes)
+{
+    std::free(bytes);
 }
 
 void copy_bytes(void *to, const void *from, std::size_t size)

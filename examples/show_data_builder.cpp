@@ -3,9 +3,10 @@
 namespace l2fib
 {
 
-// Not inline: where GCC 12 sees the sizes of several records at once, it warns of overflows that cannot happen.
+// Not inline, also when linking: where GCC 12 sees the sizes of several records at once, it warns of overflows that
+// cannot happen.
 
-ShowDataBuilder &ShowDataBuilder::add_bytes(const void *bytes, std::size_t size)
+[[gnu::noinline]] ShowDataBuilder &ShowDataBuilder::add_bytes(const void *bytes, std::size_t size)
 {
     const auto *begin = static_cast<const std::uint8_t *>(bytes);
     bytes_.insert(bytes_.end(), begin, begin + size);

@@ -1,5 +1,5 @@
 # What Debian asks of each package and an installation has no use for: compressed pages, changelog and copyright.
-foreach(component RUNTIME DEV TOOL)
+foreach(component PLATFORM RUNTIME DEV TOOL)
     string(TOLOWER ${component} directory)
     set(usr ${CPACK_TEMPORARY_DIRECTORY}/${directory}/usr)
     set(documents ${usr}/share/doc/${CPACK_DEBIAN_${component}_PACKAGE_NAME})

@@ -1,4 +1,5 @@
-// Memory that runs out on demand. The linker leads the library's calls of the C allocator here.
+// Memory that runs out on demand. The linker leads the library's calls of the C allocator here: those
+// of common/working_copies.cpp, which is compiled apart in every build.
 #pragma once
 
 namespace l2fib
