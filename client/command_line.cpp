@@ -100,7 +100,7 @@ static std::vector<std::string> options_of(const CLI::App &command)
 static std::vector<std::string> commands_of(const CLI::App &app)
 {
     std::vector<std::string> names;
-    for (const CLI::App *command : app.get_subcommands([](const CLI::App *any) { return !any->get_group().empty(); })) {
+    for (const CLI::App *command : app.get_subcommands({})) {
         names.push_back(command->get_name());
     }
     return names;
