@@ -4,6 +4,7 @@
 #include "client/command_line.h"
 #include "client/completion.h"
 #include "client/diagnostics.h"
+#include "client/diff/diff.h"
 #include "client/replay.h"
 #include "client/schema.h"
 #include "client/screen.h"
@@ -234,6 +235,21 @@ static CLI::App *add_check_command(CLI::App &app, CheckOptions &options)
     return &command;
 }
 
+static CLI::App *add_diff_command(CLI::App &app, DiffOptions &options)
+{
+    CLI::App &command = *app.add_subcommand("diff", "Print what has changed between two files of captures");
+    add_selection(command, options.selection);
+    command.add_flag("--all", options.all, "Print also what changes by itself: counters, pointers and times");
+    command.add_flag("--json", options.json, "Print JSON, an object on each line, in place of text");
+    command.add_option("BEFORE", options.before, "Captures, one a line; - for standard input")
+        ->required()
+        ->type_name("");
+    command.add_option("AFTER", options.after, "Captures of the same objects, taken later")->required()->type_name("");
+    command.footer("Exit status: 0 alike, 1 not, 2 some could not be compared.\n\n"
+                   "Example:\n  l2fib-show diff monday.jsonl tuesday.jsonl");
+    return &command;
+}
+
 static CLI::App *add_help_command(CLI::App &app, std::string &subject)
 {
     CLI::App &command = *app.add_subcommand("help", "Print the help of a command");
@@ -324,6 +340,8 @@ static ExitStatus run(int argc, char **argv)
     const CLI::App *replay_command = add_replay_command(app, replay_options, request.rendering);
     CheckOptions check_options;
     const CLI::App *check_command = add_check_command(app, check_options);
+    DiffOptions diff_options;
+    const CLI::App *diff_command = add_diff_command(app, diff_options);
     const CLI::App *schema_command = app.add_subcommand("schema", "Print the JSON Schema of what --json prints");
     std::string help_subject;
     const CLI::App *help_command = add_help_command(app, help_subject);
@@ -354,6 +372,9 @@ static ExitStatus run(int argc, char **argv)
     }
     if (check_command->parsed()) {
         return check(check_options);
+    }
+    if (diff_command->parsed()) {
+        return diff(diff_options);
     }
     if (replay_command->parsed()) {
         replay_options.rendering = rendering_of(request.rendering);
