@@ -51,8 +51,6 @@ struct TreeValue {
 class Tree : public NamingRecorder
 {
 public:
-    Tree() { map().keep_all(); }
-
     void begin(std::span<const std::uint8_t> show_data);
 
     [[nodiscard]] std::span<const TreeSection> sections() const { return sections_; }
@@ -64,7 +62,8 @@ public:
         return std::span(flags_).subspan(word.first_flag, word.flags);
     }
 
-    /// Where the records of a type begin, as far as the view has come to them.
+    /// Where the records of a type begin, of those that the view has come to first. Of very long show data not all are
+    /// known.
     [[nodiscard]] std::vector<std::size_t> records_named(std::string_view type) const;
 
     /// "hw.nps[1].xid.shg"

@@ -267,44 +267,60 @@ static void check_member_counts(const CheckedView &view, const HardwareCheck &ch
     add(check, coverage, std::move(finding));
 }
 
+/// The values of a report's line up to one of them, as the screen has them.
+static std::string line_up_to(const CheckedView &view, std::uint32_t last)
+{
+    constexpr std::uint32_t most_values = 16; // show data may have any number of them on a line
+    const auto sections = view.tree().sections();
+    const TreeValue *line = view.in_section(last, "line");
+    const auto is_on_line = [&](std::uint32_t section) {
+        const TreeValue *its = view.in_section(section, "line");
+        return sections[section].pattern == sections[last].pattern && its != nullptr && line != nullptr &&
+               its->number == line->number;
+    };
+    std::uint32_t first = last;
+    while (first > 1 && last - first < most_values && is_on_line(first - 1)) {
+        --first;
+    }
+    std::string text;
+    for (std::uint32_t at = first; at <= last; ++at) {
+        const TreeValue *words = view.in_section(at, "text");
+        const TreeValue *value = words != nullptr ? words : view.in_section(at, "number");
+        text += text.empty() ? "" : " ";
+        text += value == nullptr ? "" : text_of(*value);
+    }
+    return text;
+}
+
 /// What the producer of a report has found itself.
 static void check_verdicts(const CheckedView &view, const HardwareCheck &check, Coverage &coverage)
 {
-    const bool is_error = check.level == Level::error;
+    constexpr std::size_t most_findings = 50;
+    const std::string_view wanted = check.level == Level::error ? "Error" : "Warning";
+    std::size_t found = 0;
     for (const auto pattern : {pattern_of("rp.values[].verdict"), pattern_of("hw.values[].verdict")}) {
         view.for_each(pattern, [&](const TreeValue &verdict) {
-            if (verdict.text != (is_error ? "Error" : "Warning")) {
+            if (verdict.text != wanted || ++found > most_findings) {
                 return;
             }
-            std::string line; // all that the report's line says
-            const TreeValue *number = view.in_section(verdict.section, "line");
-            const auto sections = view.tree().sections();
-            std::uint32_t first = verdict.section;
-            const auto line_of = [&](std::uint32_t section) {
-                const TreeValue *its = view.in_section(section, "line");
-                return its == nullptr || number == nullptr ? 0 : its->number - number->number;
-            };
-            while (first > 1 && sections[first - 1].pattern == sections[first].pattern && line_of(first - 1) == 0) {
-                --first;
-            }
-            for (std::uint32_t at = first; at <= verdict.section; ++at) {
-                const TreeValue *text = view.in_section(at, "text");
-                const TreeValue *value = view.in_section(at, "number");
-                line += line.empty() ? "" : " ";
-                line += text != nullptr ? std::string(text->text) : value != nullptr ? text_of(*value) : "";
-            }
+            const TreeValue *value = view.in_section(verdict.section, "number");
+            value = value == nullptr ? view.in_section(verdict.section, "text") : value;
             Finding finding{};
-            finding.who = line;
-            const TreeValue *at = view.in_section(verdict.section, "number");
-            at = at == nullptr ? view.in_section(verdict.section, "text") : at;
+            finding.who = line_up_to(view, verdict.section);
             finding.statements.push_back({{party_of(view, verdict.section)},
                                           std::string(verdict.text),
                                           std::nullopt,
                                           true,
                                           view.tree().path_of(verdict),
-                                          at == nullptr ? std::nullopt : bytes_of(*at)});
+                                          value == nullptr ? std::nullopt : bytes_of(*value)});
             add(check, coverage, std::move(finding));
         });
+    }
+    if (found > most_findings) {
+        Finding finding{};
+        finding.who = std::to_string(found - most_findings) + " more";
+        finding.statements.push_back({{"report"}, std::string(wanted), std::nullopt, false, "", std::nullopt});
+        add(check, coverage, std::move(finding));
     }
 }
 
