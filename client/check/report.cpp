@@ -188,12 +188,10 @@ void CheckReport::end()
     }
     std::string line;
     if (disagreeing_ == 0) {
-        line = unchecked_ == 0 ? "All " + counted(objects_, "object agrees.", "objects agree.")
-                               : counted(objects_ - unchecked_, "object agrees.", "objects agree.");
+        line = counted(objects_ - unchecked_, "object agrees.", "objects agree.");
     } else {
-        line = std::to_string(disagreeing_) + " of " +
-               counted(objects_, disagreeing_ == 1 ? "object disagrees." : "objects disagree.",
-                       disagreeing_ == 1 ? "objects disagrees." : "objects disagree.");
+        line = std::to_string(disagreeing_) + " of " + counted(objects_, "object", "objects") +
+               (disagreeing_ == 1 ? " disagrees." : " disagree.");
     }
     line += across_ == 0 ? "" : ' ' + counted(across_, "disagreement", "disagreements") + " across objects.";
     if (unchecked_ != 0) {
