@@ -61,9 +61,9 @@ says 0 "1 object agrees." check --all vpls-ac-ingress.jsonl
 grep -q 'token bucket id' stdout || fail "check --all: no token bucket: $(cat stdout)"
 
 # What is cut short is not checked, also beside what disagrees; a note is no disagreement.
-sed -E 's/("show_data":"[0-9a-f]{1622}).*/\1"}/' vpls-ac-egress.jsonl >cut
-says 2 "0 objects agree. 1 could not be checked: cut:1 (645 of 1300 bytes)." check cut
-cat cut faulty >mixed
+sed -E 's/("show_data":"[0-9a-f]{1622}).*/\1"}/' vpls-ac-egress.jsonl >short
+says 2 "0 objects agree. 1 could not be checked: short:1 (645 of 1300 bytes)." check short
+cat short faulty >mixed
 says 2 "1 of 2 objects disagrees. 1 could not be checked: mixed:1 (645 of 1300 bytes)." check mixed
 line 51 >noted
 says 0 "1 object agrees." check noted
@@ -90,8 +90,8 @@ cat vpls-ac-ingress.jsonl vpls-ac-egress.jsonl vpls-pw-ingress.jsonl bridge-ingr
 golden diff.txt 1 diff before after
 golden diff.json 1 diff --json before after
 says 0 "0 changed, 0 added, 0 removed, 9 alike." diff before before
-says 2 "0 changed, 0 added, 0 removed, 0 alike, 1 not compared." diff cut vpls-ac-egress.jsonl
-says 0 "0 changed, 0 added, 0 removed, 1 alike." diff cut cut
+says 2 "0 changed, 0 added, 0 removed, 0 alike, 1 not compared." diff short vpls-ac-egress.jsonl
+says 0 "0 changed, 0 added, 0 removed, 1 alike." diff short short
 
 # Counters, pointers and times change by themselves.
 line 69 >scanned
