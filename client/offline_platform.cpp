@@ -23,9 +23,10 @@ static std::uint64_t seconds_of(clockid_t clock)
 
 void answer_for(const Router &router)
 {
-    const char *set = std::getenv("TZ");
-    if (router.time_zone && (set == nullptr || *router.time_zone != set)) {
-        setenv("TZ", router.time_zone->c_str(), 1);
+    static std::string time_zone; // of the last router that had one; nothing else here sets it
+    if (router.time_zone && *router.time_zone != time_zone) {
+        time_zone = *router.time_zone;
+        setenv("TZ", time_zone.c_str(), 1);
     }
     current = &router;
 }
