@@ -1,8 +1,8 @@
 // The facts that several parts of an object's show data state. All of them must say the same: these are the rules that
 // `l2fib-show check` goes by.
 //
-// To add one, add a row to the table in facts.cpp, an example to docs/checks.md, and the fault to the samples
-// (examples/disagreement_captures.cpp).
+// To add one, add a row to the table in facts.cpp, an example to docs/checks.md, and the fault to those of
+// examples/planted_faults.cpp.
 #pragma once
 
 #include "client/check/findings.h"
