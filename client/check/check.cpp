@@ -49,7 +49,7 @@ void Repeated::add(const CheckedObject &object, std::span<const std::uint8_t> re
         in_order_.push_back(object.name);
     }
     if (seen.file != object.file) {
-        seen.file = object.file;
+        seen.file = object.file; // a file that is named twice is read twice, and is still one
         ++seen.files;
     }
     for (const Finding &finding : object.findings) {

@@ -143,7 +143,7 @@ void CheckReport::write_object(const CheckedObject &object, std::span<const std:
 
 void CheckReport::object(const CheckedObject &object, std::span<const std::uint8_t> received)
 {
-    constexpr std::size_t most_named = 10;
+    constexpr std::size_t most_named = 5;
     ++objects_;
     disagreeing_ += object.disagrees() ? 1 : 0;
     if (!object.unchecked.empty()) {
@@ -195,8 +195,11 @@ void CheckReport::end()
     }
     line += across_ == 0 ? "" : ' ' + counted(across_, "disagreement", "disagreements") + " across objects.";
     if (unchecked_ != 0) {
-        line += ' ' + std::to_string(unchecked_) + " could not be checked: " + names_in_a_row(first_unchecked_);
-        line += unchecked_ > first_unchecked_.size() ? ", ..." : "";
+        std::vector<std::string> names = first_unchecked_;
+        if (unchecked_ > names.size()) {
+            names.push_back(std::to_string(unchecked_ - names.size()) + " more");
+        }
+        line += ' ' + std::to_string(unchecked_) + " could not be checked: " + names_in_a_row(names);
         line += '.';
     }
     std::printf("%s\n", line.c_str());

@@ -65,6 +65,9 @@ sed -E 's/("show_data":"[0-9a-f]{1622}).*/\1"}/' vpls-ac-egress.jsonl >short
 says 2 "0 objects agree. 1 could not be checked: short:1 (645 of 1300 bytes)." check short
 cat short faulty >mixed
 says 2 "1 of 2 objects disagrees. 1 could not be checked: mixed:1 (645 of 1300 bytes)." check mixed
+for _ in 1 2 3 4 5 6 7; do cat short; done >many
+says 2 "0 objects agree. 7 could not be checked: many:1 (645 of 1300 bytes), many:2 (645 of 1300 bytes), many:3 (645 of \
+1300 bytes), many:4 (645 of 1300 bytes), many:5 (645 of 1300 bytes) and 2 more." check many
 line 51 >noted
 says 0 "1 object agrees." check noted
 grep -q '^  note: counter of learned addresses' stdout || fail "check: no note: $(cat stdout)"
