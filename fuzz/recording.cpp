@@ -1,5 +1,8 @@
 // Proves that the recording build prints what the library prints, that what it takes down is on the screen and in the
-// show data, and that the client's lines of JSON are as published: of every object in every view and direction.
+// show data, that the client's lines of JSON are as published, and that checks stay in the show data: of every object
+// in every view and direction.
+#include "client/check/object_check.h"
+#include "client/diff/tree_difference.h"
 #include "fuzz/call.h"
 #include "fuzz/functions.h"
 #include "fuzz/shape.h"
@@ -44,6 +47,25 @@ static Capture capture_of(std::span<const std::uint8_t> input)
     return capture;
 }
 
+/// Checks an object, whatever its show data is, and compares it with itself.
+static void check_and_compare(const Capture &capture)
+{
+    static CheckedView view;
+    static ObjectCheck check;
+    recording::Tree tree;
+    Capture shown = capture;
+    tree.begin(shown.show_data);
+    record_view(shown, tree);
+    view.begin(tree, capture.show_data);
+    for (const Finding &finding : check.check(*capture.object, view)) {
+        for (const Statement &statement : finding.statements) {
+            require(!statement.bytes || statement.bytes->offset + statement.bytes->width <= capture.show_data.size(),
+                    "a finding's bytes are outside of the show data");
+        }
+    }
+    require(changes({tree, capture.show_data}, {tree, capture.show_data}, true).empty(), "a view differs from itself");
+}
+
 static Shape shape_of_call(std::span<const std::uint8_t> input)
 {
     Call call{};
@@ -63,6 +85,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
           fault_of_line(capture, as_json, schema), fault_of_line(capture, as_bytes, schema)}) {
         require(fault.empty(), fault.c_str());
     }
+    check_and_compare(capture);
     return 0;
 }
 

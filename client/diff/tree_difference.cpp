@@ -75,7 +75,10 @@ public:
     {
         for (std::uint32_t i = 0; i < tree.sections().size(); ++i) {
             sections_.push_back(name_of_section(i));
-            known_.insert(sections_.back());
+            if (!known_.insert(sections_.back()).second) { // show data may have two NPs of a number
+                sections_.back() += '#' + std::to_string(tree.sections()[i].index);
+                known_.insert(sections_.back());
+            }
         }
         for (const TreeValue &value : tree.values()) {
             values_.try_emplace(name_of(value), &value);
