@@ -4,6 +4,7 @@
 #include "client/command_line.h"
 #include "client/completion.h"
 #include "client/diagnostics.h"
+#include "client/page/page.h"
 #include "client/replay.h"
 #include "client/schema.h"
 #include "client/screen.h"
@@ -234,6 +235,17 @@ static CLI::App *add_check_command(CLI::App &app, CheckOptions &options)
     return &command;
 }
 
+static CLI::App *add_page_command(CLI::App &app, PageOptions &options)
+{
+    CLI::App &command = *app.add_subcommand("page", "Write captures, and what check finds in them, as a page of HTML");
+    add_selection(command, options.selection);
+    command.add_option("FILE", options.files, "Captures, one a line; - for standard input (the default)")
+        ->type_name("");
+    command.footer("Exit status: 0 all agree, 1 some do not, 2 some could not be checked.\n\n"
+                   "Example:\n  l2fib-show page router.jsonl >router.html");
+    return &command;
+}
+
 static CLI::App *add_help_command(CLI::App &app, std::string &subject)
 {
     CLI::App &command = *app.add_subcommand("help", "Print the help of a command");
@@ -324,6 +336,8 @@ static ExitStatus run(int argc, char **argv)
     const CLI::App *replay_command = add_replay_command(app, replay_options, request.rendering);
     CheckOptions check_options;
     const CLI::App *check_command = add_check_command(app, check_options);
+    PageOptions page_options;
+    const CLI::App *page_command = add_page_command(app, page_options);
     const CLI::App *schema_command = app.add_subcommand("schema", "Print the JSON Schema of what --json prints");
     std::string help_subject;
     const CLI::App *help_command = add_help_command(app, help_subject);
@@ -354,6 +368,9 @@ static ExitStatus run(int argc, char **argv)
     }
     if (check_command->parsed()) {
         return check(check_options);
+    }
+    if (page_command->parsed()) {
+        return write_page(page_options);
     }
     if (replay_command->parsed()) {
         replay_options.rendering = rendering_of(request.rendering);

@@ -1,0 +1,93 @@
+#include "client/page/finding_list.h"
+
+#include "client/check/statements.h"
+#include "client/hex_digits.h"
+
+#include <algorithm>
+
+namespace l2fib
+{
+
+using Bytes = std::span<const std::uint8_t>;
+
+std::string counted(std::size_t count, const char *one, const char *many)
+{
+    return std::to_string(count) + ' ' + (count == 1 ? one : many);
+}
+
+/// The bytes of a statement, or the first of them.
+static std::string hex_of(const ByteRange &range, Bytes received)
+{
+    constexpr std::size_t most = 8;
+    const Bytes bytes = received.subspan(range.offset, std::min(range.width, most));
+    return "0x" + hex_of_bytes({bytes.begin(), bytes.end()}) + (range.width > most ? "..." : "");
+}
+
+static void write_statement(HtmlWriter &out, const Statement &statement, Bytes received, const Links *links)
+{
+    const HtmlElement row(out, "tr", {{"class", statement.is_odd ? "x" : ""}});
+    out.element("th", names_in_a_row(statement.parties));
+    {
+        const HtmlElement cell(out, "td");
+        out.text(statement.text);
+        if (statement.number) {
+            out.element("i", std::to_string(*statement.number));
+        }
+    }
+    if (links == nullptr) {
+        return;
+    }
+    {
+        const HtmlElement cell(out, "td");
+        const auto &bytes = statement.bytes;
+        if (bytes && bytes->offset + bytes->width <= received.size()) {
+            out.element("a", hex_of(*bytes, received), {{"href", links->to_bytes_at(bytes->offset)}});
+        }
+    }
+    out.element("td", statement.path);
+}
+
+static void write_finding(HtmlWriter &out, const Finding &finding, Bytes received, const Links *links)
+{
+    const HtmlElement block(out, "div", {{"class", "f"}});
+    {
+        const HtmlElement heading(out, "h4", {{"class", class_of(finding.level)}});
+        out.text(finding.level == Level::note ? "note: " : "");
+        out.text(finding.what + ": " + finding.who);
+    }
+    {
+        const HtmlElement table(out, "table");
+        for (const Statement &statement : finding.statements) {
+            write_statement(out, statement, received, links);
+        }
+    }
+    out.element("p", finding.meaning);
+}
+
+void write_finding(HtmlWriter &out, const Finding &finding)
+{
+    write_finding(out, finding, {}, nullptr);
+}
+
+void write_findings(HtmlWriter &out, const std::vector<Finding> &findings, Bytes received, const Links &links)
+{
+    const auto may_differ = [](const Finding &finding) { return finding.level == Level::may_differ; };
+    for (const Finding &finding : findings) {
+        if (!may_differ(finding)) {
+            write_finding(out, finding, received, &links);
+        }
+    }
+    const auto folded = static_cast<std::size_t>(std::count_if(findings.begin(), findings.end(), may_differ));
+    if (folded == 0) {
+        return;
+    }
+    const HtmlElement details(out, "details");
+    out.element("summary", counted(folded, "difference that is", "differences that are") + " most often right");
+    for (const Finding &finding : findings) {
+        if (may_differ(finding)) {
+            write_finding(out, finding, received, &links);
+        }
+    }
+}
+
+} // namespace l2fib
