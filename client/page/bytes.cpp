@@ -12,14 +12,14 @@ namespace l2fib
 using recording::ByteRun;
 using Bytes = std::span<const std::uint8_t>;
 
-static std::string hex(std::size_t number)
+std::string hex_number(std::size_t number)
 {
     std::array<char, 2 * sizeof number + 1> digits{};
     std::snprintf(digits.data(), digits.size(), "%zx", number);
     return digits.data();
 }
 
-static std::string in_pairs(Bytes bytes)
+std::string hex_pairs(Bytes bytes)
 {
     constexpr std::string_view digits = "0123456789abcdef";
     std::string text;
@@ -95,8 +95,8 @@ void ByteRows::add_line(const ByteRun &run, std::size_t offset, std::size_t size
     }
     const HtmlElement row(out_, "tr",
                           {{"id", is_anchor ? links_.bytes_id(run.offset) : std::string()}, {"class", mark}});
-    out_.element("th", hex(offset));
-    out_.element("td", in_pairs(at(offset, size)));
+    out_.element("th", hex_number(offset));
+    out_.element("td", hex_pairs(at(offset, size)));
     const HtmlElement cell(out_, "td");
     if (offset == run.offset) {
         write_field(run);
@@ -136,7 +136,7 @@ void ByteRows::write_zeros()
 {
     if (zeros_ != 0 && ++rows_ <= most_rows) {
         const HtmlElement row(out_, "tr", {{"class", "z"}});
-        out_.element("th", hex(zeros_offset_));
+        out_.element("th", hex_number(zeros_offset_));
         out_.element("td", std::to_string(zeros_) + (zeros_ == 1 ? " zero" : " zeros"), {{"colspan", "2"}});
     }
     zeros_ = 0;

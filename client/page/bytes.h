@@ -7,6 +7,12 @@
 namespace l2fib
 {
 
+/// "28a"
+std::string hex_number(std::size_t number);
+
+/// "00 34 00 03"
+std::string hex_pairs(std::span<const std::uint8_t> bytes);
+
 /// What is not zero or has a value; the rest as ranges.
 void write_bytes(HtmlWriter &out, recording::BytesRecorder &bytes, std::span<const std::uint8_t> received,
                  const Links &links);

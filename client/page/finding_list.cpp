@@ -1,7 +1,7 @@
 #include "client/page/finding_list.h"
 
 #include "client/check/statements.h"
-#include "client/hex_digits.h"
+#include "client/page/bytes.h"
 
 #include <algorithm>
 
@@ -15,58 +15,76 @@ std::string counted(std::size_t count, const char *one, const char *many)
     return std::to_string(count) + ' ' + (count == 1 ? one : many);
 }
 
-/// The bytes of a statement, or the first of them.
-static std::string hex_of(const ByteRange &range, Bytes received)
+/// "0x28a: 00 00 00 01"
+static std::string text_of(const ByteRange &range, Bytes received)
 {
     constexpr std::size_t most = 8;
-    const Bytes bytes = received.subspan(range.offset, std::min(range.width, most));
-    return "0x" + hex_of_bytes({bytes.begin(), bytes.end()}) + (range.width > most ? "..." : "");
+    return "0x" + hex_number(range.offset) + ": " +
+           hex_pairs(received.subspan(range.offset, std::min(range.width, most))) + (range.width > most ? " ..." : "");
 }
 
-static void write_statement(HtmlWriter &out, const Statement &statement, Bytes received, const Links *links)
+static void write_text(HtmlWriter &out, const Statement &statement)
 {
-    const HtmlElement row(out, "tr", {{"class", statement.is_odd ? "x" : ""}});
-    out.element("th", names_in_a_row(statement.parties));
-    {
-        const HtmlElement cell(out, "td");
-        out.text(statement.text);
-        if (statement.number) {
-            out.element("i", std::to_string(*statement.number));
-        }
+    const HtmlElement cell(out, "td");
+    out.text(statement.text);
+    if (statement.number) {
+        out.element("i", std::to_string(*statement.number));
     }
-    if (links == nullptr) {
-        return;
-    }
-    {
-        const HtmlElement cell(out, "td");
-        const auto &bytes = statement.bytes;
-        if (bytes && bytes->offset + bytes->width <= received.size()) {
-            out.element("a", hex_of(*bytes, received), {{"href", links->to_bytes_at(bytes->offset)}});
-        }
-    }
-    out.element("td", statement.path);
 }
 
-static void write_finding(HtmlWriter &out, const Finding &finding, Bytes received, const Links *links)
+static void write_heading(HtmlWriter &out, const Finding &finding)
+{
+    const HtmlElement heading(out, "h4", {{"class", class_of(finding.level)}});
+    out.text(finding.level == Level::note ? "note: " : "");
+    out.text(finding.what + ": " + finding.who);
+}
+
+static std::string_view class_of(const Statement &statement)
+{
+    return statement.is_odd ? "x" : "";
+}
+
+static void write_finding(HtmlWriter &out, const Finding &finding, Bytes received, const Links &links)
 {
     const HtmlElement block(out, "div", {{"class", "f"}});
-    {
-        const HtmlElement heading(out, "h4", {{"class", class_of(finding.level)}});
-        out.text(finding.level == Level::note ? "note: " : "");
-        out.text(finding.what + ": " + finding.who);
-    }
+    write_heading(out, finding);
     {
         const HtmlElement table(out, "table");
         for (const Statement &statement : finding.statements) {
-            write_statement(out, statement, received, links);
+            const HtmlElement row(out, "tr", {{"class", class_of(statement)}});
+            out.element("th", names_in_a_row(statement.parties));
+            write_text(out, statement);
+            {
+                const HtmlElement cell(out, "td");
+                const auto &bytes = statement.bytes;
+                if (bytes && bytes->offset + bytes->width <= received.size()) {
+                    out.element("a", text_of(*bytes, received), {{"href", links.to_bytes_at(bytes->offset)}});
+                }
+            }
+            out.element("td", statement.path);
         }
     }
     out.element("p", finding.meaning);
 }
 
-void write_finding(HtmlWriter &out, const Finding &finding)
+void write_finding(HtmlWriter &out, const Finding &finding, const ToObject &to_object)
 {
-    write_finding(out, finding, {}, nullptr);
+    const HtmlElement block(out, "div", {{"class", "f"}});
+    write_heading(out, finding);
+    {
+        const HtmlElement table(out, "table");
+        for (const Statement &statement : finding.statements) {
+            const HtmlElement row(out, "tr", {{"class", class_of(statement)}});
+            {
+                const HtmlElement heading(out, "th");
+                for (const std::string &place : statement.parties) {
+                    out.element("a", place, {{"href", to_object(place)}});
+                }
+            }
+            write_text(out, statement);
+        }
+    }
+    out.element("p", finding.meaning);
 }
 
 void write_findings(HtmlWriter &out, const std::vector<Finding> &findings, Bytes received, const Links &links)
@@ -74,7 +92,7 @@ void write_findings(HtmlWriter &out, const std::vector<Finding> &findings, Bytes
     const auto may_differ = [](const Finding &finding) { return finding.level == Level::may_differ; };
     for (const Finding &finding : findings) {
         if (!may_differ(finding)) {
-            write_finding(out, finding, received, &links);
+            write_finding(out, finding, received, links);
         }
     }
     const auto folded = static_cast<std::size_t>(std::count_if(findings.begin(), findings.end(), may_differ));
@@ -85,7 +103,7 @@ void write_findings(HtmlWriter &out, const std::vector<Finding> &findings, Bytes
     out.element("summary", counted(folded, "difference that is", "differences that are") + " most often right");
     for (const Finding &finding : findings) {
         if (may_differ(finding)) {
-            write_finding(out, finding, received, &links);
+            write_finding(out, finding, received, links);
         }
     }
 }

@@ -1,7 +1,8 @@
 #include "client/page/links.h"
 
+#include "client/page/bytes.h"
+
 #include <algorithm>
-#include <array>
 
 namespace l2fib
 {
@@ -59,9 +60,7 @@ std::string Links::value_id(const TreeValue &value) const
 
 std::string Links::bytes_id(std::size_t offset) const
 {
-    std::array<char, 2 * sizeof offset + 1> digits{};
-    std::snprintf(digits.data(), digits.size(), "%zx", offset);
-    return id('b', digits.data());
+    return id('b', hex_number(offset));
 }
 
 std::string Links::to_bytes_of(const TreeValue &value) const

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <stdexcept>
@@ -97,6 +98,7 @@ private:
     void write();
     void write_head();
     void write_summary();
+    [[nodiscard]] std::string to_object(const std::string &place) const;
     [[nodiscard]] std::string title() const;
     [[nodiscard]] std::string verdict() const;
     [[nodiscard]] ExitStatus status() const;
@@ -106,7 +108,8 @@ private:
     ObjectArticle article_;
     AcrossObjects across_;
     std::vector<Finding> across_findings_;
-    std::size_t objects_ = 0;
+    std::vector<std::size_t> lines_; ///< of the objects, by their numbers from 1; in the order of the files
+    std::vector<std::pair<std::string, std::size_t>> files_begun_; ///< each with how many objects were before it
     std::size_t disagreeing_ = 0;
     Chapter found_{"Findings"};
     Chapter unchecked_{"Could not be checked"};
@@ -116,7 +119,11 @@ private:
 
 bool Page::take(Capture &capture, const CapturePlace &place)
 {
-    article_.begin(capture, place, ++objects_);
+    if (files_begun_.empty() || files_begun_.back().first != place.file) {
+        files_begun_.emplace_back(place.file, lines_.size());
+    }
+    lines_.push_back(place.line);
+    article_.begin(capture, place, lines_.size());
     disagreeing_ += article_.object().disagrees() ? 1 : 0;
     if (!article_.object().unchecked.empty()) {
         unchecked_.add(article_);
@@ -125,6 +132,25 @@ bool Page::take(Capture &capture, const CapturePlace &place)
     across_.add(capture, article_.xid(), article_.view(), place);
     (article_.has_findings() ? found_ : agreeing_).add(article_);
     return true;
+}
+
+std::string Page::to_object(const std::string &place) const
+{
+    for (std::size_t i = 0; i < files_begun_.size(); ++i) {
+        const auto &[file, before] = files_begun_[i];
+        const std::size_t end = i + 1 < files_begun_.size() ? files_begun_[i + 1].second : lines_.size();
+        if (!place.starts_with(file + ':')) {
+            continue;
+        }
+        const auto first = lines_.begin() + static_cast<std::ptrdiff_t>(before);
+        const auto last = lines_.begin() + static_cast<std::ptrdiff_t>(end);
+        const std::size_t line = std::strtoul(place.c_str() + file.size() + 1, nullptr, 10);
+        const auto found = std::lower_bound(first, last, line);
+        if (found != last && *found == line) {
+            return "#o" + std::to_string(found - lines_.begin() + 1);
+        }
+    }
+    return {};
 }
 
 std::string Page::title() const
@@ -140,9 +166,9 @@ std::string Page::verdict() const
 {
     std::string text;
     if (disagreeing_ != 0) {
-        text = std::to_string(disagreeing_) + " of " + counted(objects_, "object disagrees", "objects disagree");
+        text = std::to_string(disagreeing_) + " of " + counted(lines_.size(), "object disagrees", "objects disagree");
     } else {
-        text = counted(objects_ - unchecked_.count(), "object agrees", "objects agree");
+        text = counted(lines_.size() - unchecked_.count(), "object agrees", "objects agree");
     }
     if (!across_findings_.empty()) {
         text += ", " + counted(across_findings_.size(), "disagreement", "disagreements") + " across objects";
@@ -201,7 +227,7 @@ void Page::write()
             out_.element("h2", "Across objects (" + std::to_string(across_findings_.size()) + ")");
             const HtmlElement article(out_, "article");
             for (const Finding &finding : across_findings_) {
-                write_finding(out_, finding);
+                write_finding(out_, finding, [this](const std::string &place) { return to_object(place); });
             }
         }
         for (Chapter *chapter : {&found_, &unchecked_, &agreeing_}) {
