@@ -22,7 +22,8 @@ void Links::begin(std::size_t object, const CheckedView &view, recording::BytesR
             origins_.push_back({values[i].place->offset, i});
         }
     }
-    std::sort(origins_.begin(), origins_.end());
+    std::stable_sort(origins_.begin(), origins_.end(),
+                     [](const Origin &one, const Origin &other) { return one.offset < other.offset; });
     take_findings(findings);
     begins_.clear();
     bytes.for_each_run([this](const ByteRun &run) {
@@ -76,8 +77,9 @@ std::string Links::to_bytes_at(std::size_t offset) const
 
 std::span<const Links::Origin> Links::values_of(const ByteRun &run) const
 {
-    const auto first = std::lower_bound(origins_.begin(), origins_.end(), Origin{run.offset, 0});
-    const auto last = std::lower_bound(first, origins_.end(), Origin{run.offset + run.size, 0});
+    const auto is_before = [](const Origin &origin, std::size_t offset) { return origin.offset < offset; };
+    const auto first = std::lower_bound(origins_.begin(), origins_.end(), run.offset, is_before);
+    const auto last = std::lower_bound(first, origins_.end(), run.offset + run.size, is_before);
     return {first, last};
 }
 

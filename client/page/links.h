@@ -15,7 +15,6 @@ public:
     struct Origin {
         std::size_t offset;
         std::uint32_t value; ///< of the tree
-        auto operator<=>(const Origin &other) const = default;
     };
 
     /// Of the object with this number. The bytes are those of the same view.
