@@ -87,24 +87,31 @@ void write_finding(HtmlWriter &out, const Finding &finding, const ToObject &to_o
     out.element("p", finding.meaning);
 }
 
+/// Those of a kind. Of very many, which only hostile show data has, the first ones.
+static void write_all(HtmlWriter &out, std::span<const Finding *const> findings, Bytes received, const Links &links)
+{
+    constexpr std::size_t most = 1000;
+    for (const Finding *finding : findings.first(std::min(findings.size(), most))) {
+        write_finding(out, *finding, received, links);
+    }
+    if (findings.size() > most) {
+        out.element("p", std::to_string(findings.size() - most) + " more: l2fib-show check");
+    }
+}
+
 void write_findings(HtmlWriter &out, const std::vector<Finding> &findings, Bytes received, const Links &links)
 {
-    const auto may_differ = [](const Finding &finding) { return finding.level == Level::may_differ; };
+    std::vector<const Finding *> told;
+    std::vector<const Finding *> folded;
     for (const Finding &finding : findings) {
-        if (!may_differ(finding)) {
-            write_finding(out, finding, received, links);
-        }
+        (finding.level == Level::may_differ ? folded : told).push_back(&finding);
     }
-    const auto folded = static_cast<std::size_t>(std::count_if(findings.begin(), findings.end(), may_differ));
-    if (folded == 0) {
-        return;
-    }
-    const HtmlElement details(out, "details");
-    out.element("summary", counted(folded, "difference that is", "differences that are") + " most often right");
-    for (const Finding &finding : findings) {
-        if (may_differ(finding)) {
-            write_finding(out, finding, received, links);
-        }
+    write_all(out, told, received, links);
+    if (!folded.empty()) {
+        const HtmlElement details(out, "details");
+        out.element("summary",
+                    counted(folded.size(), "difference that is", "differences that are") + " most often right");
+        write_all(out, folded, received, links);
     }
 }
 
