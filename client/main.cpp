@@ -5,6 +5,7 @@
 #include "client/completion.h"
 #include "client/diagnostics.h"
 #include "client/diff/diff.h"
+#include "client/page/page.h"
 #include "client/replay.h"
 #include "client/schema.h"
 #include "client/screen.h"
@@ -250,6 +251,17 @@ static CLI::App *add_diff_command(CLI::App &app, DiffOptions &options)
     return &command;
 }
 
+static CLI::App *add_page_command(CLI::App &app, PageOptions &options)
+{
+    CLI::App &command = *app.add_subcommand("page", "Write captures, and what check finds in them, as a page of HTML");
+    add_selection(command, options.selection);
+    command.add_option("FILE", options.files, "Captures, one a line; - for standard input (the default)")
+        ->type_name("");
+    command.footer("Exit status: 0 all agree, 1 some do not, 2 some could not be checked.\n\n"
+                   "Example:\n  l2fib-show page router.jsonl >router.html");
+    return &command;
+}
+
 static CLI::App *add_help_command(CLI::App &app, std::string &subject)
 {
     CLI::App &command = *app.add_subcommand("help", "Print the help of a command");
@@ -342,6 +354,8 @@ static ExitStatus run(int argc, char **argv)
     const CLI::App *check_command = add_check_command(app, check_options);
     DiffOptions diff_options;
     const CLI::App *diff_command = add_diff_command(app, diff_options);
+    PageOptions page_options;
+    const CLI::App *page_command = add_page_command(app, page_options);
     const CLI::App *schema_command = app.add_subcommand("schema", "Print the JSON Schema of what --json prints");
     std::string help_subject;
     const CLI::App *help_command = add_help_command(app, help_subject);
@@ -375,6 +389,9 @@ static ExitStatus run(int argc, char **argv)
     }
     if (diff_command->parsed()) {
         return diff(diff_options);
+    }
+    if (page_command->parsed()) {
+        return write_page(page_options);
     }
     if (replay_command->parsed()) {
         replay_options.rendering = rendering_of(request.rendering);

@@ -19,6 +19,7 @@ void ShowDataMap::begin(std::span<const std::uint8_t> show_data)
 {
     show_data_ = show_data;
     runs_.clear();
+    end_of_runs_ = 0;
     copies_.clear();
     last_run_ = 0;
     last_copy_ = 0;
@@ -59,6 +60,7 @@ void ShowDataMap::reached(const RecordInfo *type, const void *first, std::size_t
         runs_.erase(runs_.begin() + first_kept, runs_.end() - last_kept);
     }
     runs_.push_back({*offset, size, count, type});
+    end_of_runs_ = std::max(end_of_runs_, *offset + size * count);
     last_run_ = runs_.size() - 1;
 }
 
@@ -79,6 +81,9 @@ void ShowDataMap::copied(const void *to, const void *from, std::size_t size)
 
 const ShowDataMap::Run *ShowDataMap::run_at(std::size_t offset) const
 {
+    if (offset >= end_of_runs_) {
+        return nullptr; // as for each value of a report: a million of them would not look through a million runs each
+    }
     // Most often it is the one that the last offset was in, unless another one has come since.
     const auto has = [offset](const Run &run) {
         return offset >= run.offset && offset - run.offset < run.size * run.count;

@@ -62,6 +62,7 @@ private:
 
     std::span<const std::uint8_t> show_data_;
     std::vector<Run> runs_;
+    std::size_t end_of_runs_ = 0; ///< none reaches further
     std::vector<Copy> copies_;
     mutable std::size_t last_run_ = 0; // where the last answer was found
     mutable std::size_t last_copy_ = 0;

@@ -11,11 +11,10 @@ void Coverage::add(Finding finding, bool is_of_bits)
             odd.push_back(statement.bytes->offset);
         }
     }
-    const bool is_told = !is_of_bits && std::any_of(odd.begin(), odd.end(), [this](std::size_t offset) {
-        return std::find(offsets_.begin(), offsets_.end(), offset) != offsets_.end();
-    });
+    const bool is_told = !is_of_bits && std::any_of(odd.begin(), odd.end(),
+                                                    [this](std::size_t offset) { return offsets_.count(offset) != 0; });
     if (!is_told) {
-        offsets_.insert(offsets_.end(), odd.begin(), odd.end());
+        offsets_.insert(odd.begin(), odd.end());
         findings_.push_back(std::move(finding));
     }
 }

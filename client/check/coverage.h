@@ -4,6 +4,7 @@
 #include "client/check/findings.h"
 
 #include <algorithm>
+#include <set>
 #include <vector>
 
 namespace l2fib
@@ -45,7 +46,7 @@ private:
     };
     std::vector<bool> rows_;
     std::vector<Bit> bits_;
-    std::vector<std::size_t> offsets_; ///< of what was odd
+    std::set<std::size_t> offsets_; ///< of what was odd
     std::vector<Finding> findings_;
 };
 
