@@ -99,12 +99,13 @@ void NpTable::write()
     const std::string columns = std::to_string(view_.nps() + 1);
     const std::size_t rows = std::min(view_.rows(), most_rows);
     for (std::size_t row = 0; row < rows; ++row) {
-        if (view_.first_of_row(row).pattern == recording::pattern_of("hw.nps[].np")) {
+        const TreeValue &first = view_.first_of_row(row);
+        if (first.pattern == recording::pattern_of("hw.nps[].np") && !first.place) {
             continue; // the columns say it
         }
         if (row == 0 || !view_.are_of_a_section(row, row - 1)) {
             const HtmlElement heading(out_, "tr");
-            const std::string part = part_of(view_, view_.first_of_row(row).section);
+            const std::string part = part_of(view_, first.section);
             out_.element("th", part.empty() ? "NP" : part, {{"colspan", columns}, {"class", "g"}});
         }
         write_row(row);

@@ -94,7 +94,7 @@ function addSearch() {
   const field = document.createElement("input");
   const count = document.createElement("output");
   field.type = "search";
-  label.append("Objects with ", field, " ", count);
+  label.append("Find objects with ", field, " ", count);
   document.querySelector("header").append(label);
   let delay;
   field.addEventListener("input", () => {
