@@ -12,7 +12,7 @@ void Coverage::add(Finding finding, bool is_of_bits)
         }
     }
     const bool is_told = !is_of_bits && std::any_of(odd.begin(), odd.end(),
-                                                    [this](std::size_t offset) { return offsets_.count(offset) != 0; });
+                                                    [this](std::size_t offset) { return offsets_.contains(offset); });
     if (!is_told) {
         offsets_.insert(odd.begin(), odd.end());
         findings_.push_back(std::move(finding));
