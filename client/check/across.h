@@ -6,6 +6,7 @@
 #include "client/check/findings.h"
 
 #include <set>
+#include <tuple>
 #include <utility>
 
 namespace l2fib
@@ -43,12 +44,10 @@ private:
         std::uint32_t node, bridge, xid;
         bool is_member;
         Source source;
-        auto operator<=>(const Reference &other) const
-        {
-            return std::tie(node, xid, bridge, is_member) <=>
-                   std::tie(other.node, other.xid, other.bridge, other.is_member);
-        }
-        bool operator==(const Reference &other) const { return (*this <=> other) == 0; }
+
+        [[nodiscard]] auto key() const { return std::tuple(node, xid, bridge, is_member); }
+        bool operator<(const Reference &other) const { return key() < other.key(); }
+        bool operator==(const Reference &other) const { return key() == other.key(); }
     };
 
     void add_port(const Capture &capture, std::uint32_t xid, const CheckedView &view, Source source);

@@ -11,7 +11,6 @@
 namespace l2fib
 {
 
-using recording::FieldKind;
 using recording::pattern_of;
 using recording::TreeValue;
 

@@ -39,12 +39,16 @@ std::string part_of(const CheckedView &view, std::uint32_t section)
             return part;
         }
         std::string name = part_at.key;
-        if (is_np) {
-            name = sections[part_at.parent].parent == 0 ? name : sections[part_at.parent].key;
-            return part.empty() ? name : name + '.' + part;
+        if (is_np && sections[part_at.parent].parent != 0) {
+            name = sections[part_at.parent].key;
+        } else if (part_at.is_element && !is_np) {
+            name.append("[").append(std::to_string(part_at.index)).append("]");
         }
-        name += part_at.is_element ? '[' + std::to_string(part_at.index) + ']' : "";
-        part = part.empty() ? name : name + '.' + part;
+        name.append(part.empty() ? "" : ".").append(part);
+        part = std::move(name);
+        if (is_np) {
+            return part;
+        }
     }
     return part;
 }
