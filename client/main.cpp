@@ -1,12 +1,9 @@
 // l2fib-show: prints saved show data as the router's show commands do.
 #include "client/capture_writer.h"
-#include "client/check/check.h"
-#include "client/command_line.h"
 #include "client/completion.h"
 #include "client/diagnostics.h"
-#include "client/diff/diff.h"
-#include "client/page/page.h"
-#include "client/replay.h"
+#include "client/file_commands.h"
+#include "client/options.h"
 #include "client/schema.h"
 #include "client/screen.h"
 #include "client/show_data_file.h"
@@ -15,24 +12,14 @@
 
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
-#include <limits>
 #include <new>
 #include <optional>
 #include <span>
 #include <sstream>
-#include <unistd.h>
 
 namespace l2fib
 {
-
-/// How the command line asks for something to be shown.
-struct RenderingOptions {
-    Rendering rendering;
-    std::string color = "auto";
-    bool raw = false;
-};
 
 /// What is said of one object on the command line.
 struct Request {
@@ -43,27 +30,6 @@ struct Request {
     std::string file;
     RenderingOptions rendering;
 };
-
-template <class Row>
-static std::vector<std::string> names_of(std::span<const Row> table)
-{
-    std::vector<std::string> names;
-    for (const Row &row : table) {
-        names.emplace_back(row.name);
-    }
-    return names;
-}
-
-/// An option whose argument is the name of a row.
-template <class Row>
-static CLI::Option *add_named(CLI::App &app, const char *option, std::span<const Row> table,
-                              const std::function<void(const Row &)> &take, const char *help)
-{
-    return app
-        .add_option_function<std::string>(
-            option, [table, take](const std::string &name) { take(*row_named(table, name)); }, help)
-        ->check(one_of(names_of(table)));
-}
 
 static void add_direction_and_view(CLI::App &app, Capture &capture)
 {
@@ -77,14 +43,6 @@ static void add_direction_and_view(CLI::App &app, Capture &capture)
         app, "--view", views(), [&capture](const View &view) { capture.view = &view; },
         "detail, private or inconsistent (default: detail; private for nhop and resources)")
         ->type_name("VIEW");
-}
-
-template <class Number, class Field>
-static CLI::Option *add_number(CLI::App &app, const char *option, Field &field, const char *type_name, const char *help)
-{
-    return app.add_option(option, field, help)
-        ->type_name(type_name)
-        ->transform(number_up_to(std::numeric_limits<Number>::max()));
 }
 
 static void add_router(CLI::App &app, Request &request)
@@ -126,33 +84,6 @@ static void add_input(CLI::App &app, Request &request)
     app.add_option("FILE", request.file, "Show data; - for standard input")->required()->type_name("");
 }
 
-static void add_rendering(CLI::App &app, RenderingOptions &options)
-{
-    app.add_flag("--json", options.rendering.json, "Print JSON, an object on each line, in place of text");
-    app.add_flag("--bytes", options.rendering.bytes,
-                 "Print what each byte of the show data is, in place of the screen; as JSON with --json");
-    app.add_option("--color", options.color,
-                   "Colour the table of --bytes: auto (on a terminal, the default), always or never")
-        ->check(one_of({"auto", "always", "never"}))
-        ->type_name("WHEN");
-    app.add_flag("--raw", options.raw, "Send bytes that are no text to a terminal, too, which may obey them");
-}
-
-/// The rendering that is asked for; NO_COLOR in the environment means never.
-static Rendering rendering_of(const RenderingOptions &options)
-{
-    Rendering rendering = options.rendering;
-    const char *no_color = std::getenv("NO_COLOR");
-    const bool is_welcome = isatty(STDOUT_FILENO) != 0 && (no_color == nullptr || *no_color == '\0');
-    rendering.colored = options.color == "always" || (options.color == "auto" && is_welcome);
-    return rendering;
-}
-
-static void add_example(CLI::App &app, const std::string &example)
-{
-    app.footer("Example:\n  " + example);
-}
-
 static void add_object_command(CLI::App &app, const Object &object, Request &request)
 {
     CLI::App &command = *app.add_subcommand(object.name, std::string("Show: ") + object.description);
@@ -178,87 +109,6 @@ static CLI::App *add_capture_command(CLI::App &app, Request &request)
     add_router(command, request);
     add_input(command, request);
     add_example(command, "l2fib-show capture ac --egress --node 3 ac.bin >>router.jsonl");
-    return &command;
-}
-
-/// The options that choose captures of files.
-static void add_selection(CLI::App &command, Selection &selection)
-{
-    command.add_option("--object", selection.objects, "Only objects of this command; repeatable")
-        ->check(one_of(names_of(objects())))
-        ->type_name("OBJECT")
-        ->allow_extra_args(false);
-    add_number<std::uint32_t>(command, "--node", selection.node, "ID", "Only objects of this node");
-    command.add_option("--direction", selection.direction, "Only this side: ingress or egress")
-        ->check(one_of(names_of(directions())))
-        ->type_name("SIDE");
-    add_number<std::uint32_t>(command, "--xid", selection.xid, "XID",
-                              "Only objects of this cross-connect ID, with the 0x that screens have before it")
-        ->transform(no_zeros_in_front());
-}
-
-static CLI::App *add_replay_command(CLI::App &app, ReplayOptions &options, RenderingOptions &rendering)
-{
-    CLI::App &command = *app.add_subcommand("replay", "Show the captures of files");
-    Selection &selection = options.selection;
-    add_selection(command, selection);
-    command
-        .add_option_function<std::string>(
-            "--status", [&selection](const std::string &status) { selection.failed = status == "failed"; },
-            "Only views that ended so: ok or failed")
-        ->check(one_of({"ok", "failed"}))
-        ->type_name("STATUS");
-    command.add_flag("--count", options.count, "Print how many objects, views and statuses there are, not their text");
-    command.add_flag("--heading", options.heading,
-                     "Print a line in front of each object that says which it is; with --json, give its file and line");
-    command.add_option("FILE", options.files, "Captures, one a line; - for standard input (the default)")
-        ->type_name("");
-    add_rendering(command, rendering);
-    command.get_option("--count")->excludes(command.get_option("--bytes"));
-    add_example(command, "l2fib-show replay --object ac --status failed router.jsonl");
-    return &command;
-}
-
-static CLI::App *add_check_command(CLI::App &app, CheckOptions &options)
-{
-    CLI::App &command = *app.add_subcommand("check", "Find where NPs disagree, with each other or with the RP");
-    add_selection(command, options.selection);
-    command.add_flag("--all", options.all, "Report also what most often rightly differs from NP to NP");
-    command.add_flag("--json", options.json, "Print JSON, an object on each line, in place of text");
-    command.add_flag("--list-rules", options.list_rules, "Print what is checked, and why");
-    command
-        .add_option("FILE", options.files,
-                    "Captures, one a line; - for standard input (the default). Of an object that several files have, "
-                    "what is in all of them is reported")
-        ->type_name("");
-    command.footer("Exit status: 0 all agree, 1 some do not, 2 some could not be checked.\n\n"
-                   "Example:\n  l2fib-show check router.jsonl");
-    return &command;
-}
-
-static CLI::App *add_diff_command(CLI::App &app, DiffOptions &options)
-{
-    CLI::App &command = *app.add_subcommand("diff", "Print what has changed between two files of captures");
-    add_selection(command, options.selection);
-    command.add_flag("--all", options.all, "Print also what changes by itself: counters, pointers and times");
-    command.add_flag("--json", options.json, "Print JSON, an object on each line, in place of text");
-    command.add_option("BEFORE", options.before, "Captures, one a line; - for standard input")
-        ->required()
-        ->type_name("");
-    command.add_option("AFTER", options.after, "Captures of the same objects, taken later")->required()->type_name("");
-    command.footer("Exit status: 0 alike, 1 not, 2 some could not be compared.\n\n"
-                   "Example:\n  l2fib-show diff monday.jsonl tuesday.jsonl");
-    return &command;
-}
-
-static CLI::App *add_page_command(CLI::App &app, PageOptions &options)
-{
-    CLI::App &command = *app.add_subcommand("page", "Write captures, and what check finds in them, as a page of HTML");
-    add_selection(command, options.selection);
-    command.add_option("FILE", options.files, "Captures, one a line; - for standard input (the default)")
-        ->type_name("");
-    command.footer("Exit status: 0 all agree, 1 some do not, 2 some could not be checked.\n\n"
-                   "Example:\n  l2fib-show page router.jsonl >router.html");
     return &command;
 }
 
@@ -348,14 +198,7 @@ static ExitStatus run(int argc, char **argv)
         add_object_command(app, object, request);
     }
     const CLI::App *capture_command = add_capture_command(app, request);
-    ReplayOptions replay_options;
-    const CLI::App *replay_command = add_replay_command(app, replay_options, request.rendering);
-    CheckOptions check_options;
-    const CLI::App *check_command = add_check_command(app, check_options);
-    DiffOptions diff_options;
-    const CLI::App *diff_command = add_diff_command(app, diff_options);
-    PageOptions page_options;
-    const CLI::App *page_command = add_page_command(app, page_options);
+    FileCommands file_commands(app, request.rendering);
     const CLI::App *schema_command = app.add_subcommand("schema", "Print the JSON Schema of what --json prints");
     std::string help_subject;
     const CLI::App *help_command = add_help_command(app, help_subject);
@@ -384,18 +227,8 @@ static ExitStatus run(int argc, char **argv)
     if (schema_command->parsed()) {
         return print(std::string(published_schema()));
     }
-    if (check_command->parsed()) {
-        return check(check_options);
-    }
-    if (diff_command->parsed()) {
-        return diff(diff_options);
-    }
-    if (page_command->parsed()) {
-        return write_page(page_options);
-    }
-    if (replay_command->parsed()) {
-        replay_options.rendering = rendering_of(request.rendering);
-        return replay(replay_options);
+    if (const auto status = file_commands.run()) {
+        return *status;
     }
     return capture_command->parsed() ? capture(request) : show(request);
 }
