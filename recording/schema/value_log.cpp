@@ -20,8 +20,7 @@ LoggedValue &ValueLog::add(const Source &source, std::string_view key)
     std::string path = this->path();
     path += path.empty() ? "" : ".";
     path += key;
-    return values_.emplace_back(
-        LoggedValue{std::move(path), place, std::nullopt, {}, {}});
+    return values_.emplace_back(LoggedValue{std::move(path), place, std::nullopt, {}, {}});
 }
 
 void ValueLog::value(const Value &value)
