@@ -26,7 +26,7 @@ void KeyIndex::begin(std::size_t keys)
 
 std::size_t KeyIndex::slot_of(std::uint64_t key) const
 {
-    std::size_t at = (key ^ key >> 32U) & mask_;
+    std::size_t at = static_cast<std::size_t>(key ^ key >> 32U) & mask_;
     while (slots_[at].number != none && slots_[at].key != key) {
         at = (at + 1) & mask_;
     }
