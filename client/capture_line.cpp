@@ -88,6 +88,8 @@ static constexpr Member members[] = {
     {"direction", nullptr,
      [](Draft &d, const std::string &t) { return set_row(d, d.capture.direction, directions(), t); }},
     {"view", nullptr, [](Draft &d, const std::string &t) { return set_row(d, d.capture.view, views(), t); }},
+    {"byte_order", nullptr,
+     [](Draft &d, const std::string &t) { return set_row(d, d.capture.byte_order, byte_orders(), t); }},
     {"monotonic_seconds",
      [](Draft &d, std::uint64_t n) {
          d.monotonic_seconds = n;

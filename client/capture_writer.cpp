@@ -27,6 +27,9 @@ std::string format_capture(const Capture &capture)
         line["direction"] = capture.direction->name;
         line["view"] = capture.shown_view()->name;
     }
+    if (capture.byte_order != &byte_orders().front()) {
+        line["byte_order"] = capture.byte_order->name;
+    }
     if (router.clocks) {
         line["monotonic_seconds"] = router.clocks->monotonic_seconds;
         line["wall_seconds"] = router.clocks->wall_seconds;

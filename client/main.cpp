@@ -51,6 +51,10 @@ static void add_router(CLI::App &app, Request &request)
     add_number<std::uint32_t>(app, "--node", request.capture.node, "ID", "The node of the object (default: 0)");
     add_number<std::uint32_t>(app, "--card", router.card_type, "CODE",
                               "The card-type code of the node (default: 0x1e1000)");
+    add_named<ByteOrder>(
+        app, "--byte-order", byte_orders(), [&request](const ByteOrder &order) { request.capture.byte_order = &order; },
+        "How the line card stores its own numbers: little (the default) or big")
+        ->type_name("ORDER");
     add_number<std::uint32_t>(app, "--virtual-interface", router.virtual_interfaces, "HANDLE",
                               "The handle of a virtual interface; repeatable")
         ->allow_extra_args(false);

@@ -1,5 +1,6 @@
 #include "client/objects.h"
 
+#include "recording/views.h"
 #include "rp/ac_context.h"
 #include "rp/bridge_context.h"
 #include "rp/bridge_port_context.h"
@@ -13,6 +14,8 @@ namespace l2fib
 
 constexpr Library router_library{zel_l2fib_print_internal, zel_l2fib_platform_summary_hw_print_internal,
                                  zel_l2fib_platform_msg_counter_hw_print_internal, zel_l2fib_trident_print_summary};
+constexpr Library recording_library{recording_print_internal, recording_platform_summary_hw_print_internal,
+                                    recording_platform_msg_counter_hw_print_internal, recording_trident_print_summary};
 
 static std::uint32_t show_object(const Library &library, const Object &object, const ViewArguments &arguments,
                                  std::span<std::uint8_t> show_data)

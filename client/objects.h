@@ -38,6 +38,7 @@ struct Library {
     decltype(&zel_l2fib_trident_print_summary) print_hal_summary;
 };
 extern const Library router_library;
+extern const Library recording_library;
 
 struct Object {
     const char *name;

@@ -3,16 +3,11 @@
 #include "client/byte_table.h"
 #include "client/hex_digits.h"
 #include "client/screen.h"
-#include "recording/views.h"
 
 #include <optional>
 
 namespace l2fib
 {
-
-static constexpr Library recording_library{recording_print_internal, recording_platform_summary_hw_print_internal,
-                                           recording_platform_msg_counter_hw_print_internal,
-                                           recording_trident_print_summary};
 
 std::uint32_t Renderer::show(Capture &capture, const Origin *origin)
 {

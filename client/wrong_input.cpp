@@ -69,8 +69,9 @@ static bool is_text(std::string_view content)
 /// Whether a text has what no text has, whatever its encoding.
 static bool has_control_characters(std::string_view text)
 {
-    return std::any_of(text.begin(), text.end(),
-                       [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\r' && c != '\t'; });
+    return std::any_of(text.begin(), text.end(), [](char c) {
+        return static_cast<unsigned char>(c) < ' ' && c != '\n' && c != '\r' && c != '\t';
+    });
 }
 
 static std::string_view trimmed(std::string_view text)

@@ -7,7 +7,8 @@
 namespace l2fib
 {
 
-static_assert(std::endian::native == std::endian::little, "a number of the show data is turned round to be read");
+inline constexpr bool host_is_big_endian = std::endian::native == std::endian::big;
+static_assert(host_is_big_endian || std::endian::native == std::endian::little);
 
 template <class Integer>
 constexpr Integer byte_swapped(Integer value)
@@ -21,6 +22,13 @@ constexpr Integer byte_swapped(Integer value)
     } else {
         return value;
     }
+}
+
+/// A host's number from the bytes of a big-endian one, and these bytes from the host's number.
+template <class Integer>
+constexpr Integer from_big_endian(Integer value)
+{
+    return host_is_big_endian ? value : byte_swapped(value);
 }
 
 /// A word with its bits in reverse order.

@@ -28,7 +28,7 @@ struct Number {
 /// A number that is big-endian, and stays so in the caller's buffer.
 template <class Integer>
 struct BigEndian {
-    [[nodiscard]] constexpr Integer value() const { return byte_swapped(std::bit_cast<Integer>(bytes)); }
+    [[nodiscard]] constexpr Integer value() const { return from_big_endian(std::bit_cast<Integer>(bytes)); }
     constexpr operator Integer() const { return value(); }
 
     Bytes<sizeof(Integer)> bytes;

@@ -35,7 +35,7 @@ static void write_digits(char *end, unsigned count, std::uint64_t value, const D
         std::memcpy(end, pairs.data() + 2 * (value % pair), 2);
     }
     if (count != 0) {
-        *--end = pairs[2 * value + 1];
+        *--end = pairs[static_cast<std::size_t>(2 * value + 1)];
     }
 }
 

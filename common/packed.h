@@ -27,9 +27,10 @@ constexpr FieldRun wide(unsigned width)
 /// A word of packed bit-fields, described in the producer's order, for example FlagWord<one_bit(23), wide(9)>. Like a
 /// Number, it is converted together with its record.
 ///
-/// The producer fills the big-endian word from its most significant bit downwards; the host fills its word from the
-/// least significant bit upwards. Fields keep their values and their order, and are numbered from 0. Bytes of the word
-/// after its last field stay as received.
+/// The producer fills the big-endian word from its most significant bit downwards. A little-endian host fills its word
+/// from the least significant bit upwards, as its compilers do with bit-fields; a big-endian one does as the producer.
+/// Fields keep their values and their order, and are numbered from 0. Bytes of the word after its last field stay as
+/// received.
 template <class Word, FieldRun... runs>
 class Packed
 {
@@ -50,7 +51,7 @@ class Packed
         unsigned start = 0;
         for (const FieldRun run : {runs...}) {
             for (unsigned i = 0; i < run.count; ++i) {
-                fields[next++] = {start, run.width};
+                fields[next++] = {host_is_big_endian ? word_width - run.width - start : start, run.width};
                 start += run.width;
             }
         }
@@ -89,8 +90,9 @@ public:
         unsigned field = 0;
         const auto add = [&](FieldRun run) {
             if (run.width == 1) {
-                const Field all{layout[field].start, run.count};
-                set |= static_cast<std::uint32_t>(word() >> all.start & mask(all)) << field;
+                const Field all{layout[host_is_big_endian ? field + run.count - 1 : field].start, run.count};
+                const auto bits = static_cast<std::uint32_t>(word() >> all.start & mask(all));
+                set |= (host_is_big_endian ? bits_reversed(bits) >> (32 - run.count) : bits) << field;
                 field += run.count;
                 return;
             }
@@ -104,6 +106,9 @@ public:
 
     constexpr void to_host()
     {
+        if constexpr (host_is_big_endian) {
+            return;
+        }
         // Reversing all bits puts every field in its place. The bits inside a wide field are then reversed back.
         Word host = bits_reversed(byte_swapped(word()));
         for (const Field field : wide_fields) {
@@ -118,8 +123,9 @@ public:
     /// A big-endian word with `value` in one field, as a producer sets it.
     static constexpr Word wire_bits(unsigned field, Word value)
     {
-        const unsigned wire_start = word_width - layout[field].width - layout[field].start;
-        return static_cast<Word>((value & mask(layout[field])) << wire_start);
+        const Field &in_host = layout[field];
+        const unsigned start = host_is_big_endian ? in_host.start : word_width - in_host.width - in_host.start;
+        return static_cast<Word>((value & mask(in_host)) << start);
     }
 
     Bytes<sizeof(Word)> bytes;
@@ -138,9 +144,13 @@ class HardwareFlags : public FlagWord<runs...>
 public:
     [[nodiscard]] constexpr FromField<bool> test(unsigned bit, const char *key = nullptr) const
     {
-        return from_field((this->word() >> (31 - bit) & 1U) != 0, *this, key);
+        const unsigned place = host_is_big_endian ? bit : 31 - bit;
+        return from_field((this->word() >> place & 1U) != 0, *this, key);
     }
-    [[nodiscard]] constexpr std::uint32_t set_flags() const { return bits_reversed(this->word()); }
+    [[nodiscard]] constexpr std::uint32_t set_flags() const
+    {
+        return host_is_big_endian ? this->word() : bits_reversed(this->word());
+    }
 };
 
 } // namespace l2fib

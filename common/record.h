@@ -115,6 +115,9 @@ consteval std::string_view field_name()
 template <std::size_t count>
 void convert_halves(U16 (&numbers)[count])
 {
+    if constexpr (host_is_big_endian) {
+        return;
+    }
     constexpr std::uint64_t low_bytes = 0x00ff00ff00ff00ff;
     constexpr std::size_t in_fours = count - count % 4;
     for (std::size_t i = 0; i < in_fours; i += 4) {
@@ -148,7 +151,7 @@ void convert_field(FieldType &field)
     } else if constexpr (requires { field.to_host(); }) {
         field.to_host();
     } else {
-        field.bytes = std::bit_cast<decltype(field.bytes)>(byte_swapped(field.value()));
+        field.bytes = std::bit_cast<decltype(field.bytes)>(from_big_endian(field.value()));
     }
 }
 

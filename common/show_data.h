@@ -66,7 +66,7 @@ public:
     [[nodiscard]] const char *string_at(std::uint64_t offset) const
     {
         const ShowData text = from(offset);
-        return text.size() != 0 && std::memchr(text.begin_, '\0', text.size()) != nullptr
+        return text.size() != 0 && std::memchr(text.begin_, '\0', static_cast<std::size_t>(text.size())) != nullptr
                    ? reinterpret_cast<const char *>(text.begin_)
                    : nullptr;
     }

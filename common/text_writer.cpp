@@ -17,7 +17,8 @@ void TextWriter::put_many(char c, std::uint64_t count)
 {
     while (count != 0) {
         reserve(1);
-        const auto fitting = std::min<std::uint64_t>(count, static_cast<std::size_t>(buffer_ + buffer_size - next_));
+        const auto room = static_cast<std::size_t>(buffer_ + buffer_size - next_);
+        const auto fitting = static_cast<std::size_t>(std::min<std::uint64_t>(count, room));
         std::memset(next_, c, fitting);
         next_ += fitting;
         count -= fitting;

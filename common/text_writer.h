@@ -30,7 +30,7 @@ public:
             put_many(c, count);
         } else {
             reserve(few);
-            next_ = fill(next_, c, count);
+            next_ = fill(next_, c, static_cast<std::size_t>(count));
         }
     }
 

@@ -2,8 +2,11 @@
 // std::to_chars in the place of the table, a view takes up to 12% more instructions.
 #pragma once
 
+#include "common/byte_order.h"
+
 #include <array>
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -32,19 +35,25 @@ inline constexpr auto three_digits = [] {
     return table;
 }();
 
+inline const ThreeDigits &three_digits_of(std::uint64_t value)
+{
+    return three_digits[static_cast<std::size_t>(value)];
+}
+
 // Each of these writes four bytes, and returns where the text ends.
 
 /// "  7"
 inline char *write_three_columns(char *at, std::uint64_t value)
 {
-    std::memcpy(at, &three_digits[value], sizeof(ThreeDigits));
+    std::memcpy(at, &three_digits_of(value), sizeof(ThreeDigits));
     return at + ThreeDigits::width;
 }
 
 /// "007"
 inline char *write_three_digits(char *at, std::uint64_t value)
 {
-    const std::uint32_t digits = std::bit_cast<std::uint32_t>(three_digits[value]) | 0x30303030U; // blanks become zeros
+    const std::uint32_t digits =
+        std::bit_cast<std::uint32_t>(three_digits_of(value)) | 0x30303030U; // blanks become zeros
     std::memcpy(at, &digits, sizeof digits);
     return at + ThreeDigits::width;
 }
@@ -52,9 +61,10 @@ inline char *write_three_digits(char *at, std::uint64_t value)
 /// "7"
 inline char *write_few_digits(char *at, std::uint64_t value)
 {
-    const unsigned count = three_digits[value].digits;
+    const unsigned count = three_digits_of(value).digits;
     const unsigned blanks = ThreeDigits::width - count;
-    const std::uint32_t digits = std::bit_cast<std::uint32_t>(three_digits[value]) >> 8 * blanks;
+    const auto columns = std::bit_cast<std::uint32_t>(three_digits_of(value));
+    const std::uint32_t digits = host_is_big_endian ? columns << 8 * blanks : columns >> 8 * blanks;
     std::memcpy(at, &digits, sizeof digits);
     return at + count;
 }

@@ -136,9 +136,9 @@ static BridgePortContext bridge_port()
         const std::uint32_t statuses[] = {configured, disabled, configured};
         for (unsigned type = 0; type < storm_traffic_types; ++type) {
             StormControlTraffic &traffic = port.storm_control[np].to_compose().traffic[type];
-            set_converted(traffic.profile, (0x21 + type) << 8);
-            set_converted(traffic.token_bucket_id, 0x4100 + 0x10 * np + type);
-            set_converted(traffic.status, statuses[type]);
+            set_stored(traffic.profile, 0x21 + type);
+            set_stored(traffic.token_bucket_id, 0x4100 + 0x10 * np + type);
+            set_stored(traffic.status, statuses[type]);
         }
     }
     return port;

@@ -10,23 +10,45 @@
 namespace l2fib
 {
 
+/// How the line card stores its own numbers. Without the client, the library is to read them: it takes them for its
+/// own.
+inline std::endian stored_order = std::endian::native;
+
 template <class Integer>
 void set(Number<Integer> &field, std::type_identity_t<Integer> value)
 {
-    field.bytes = std::bit_cast<decltype(field.bytes)>(byte_swapped(value));
+    field.bytes = std::bit_cast<decltype(field.bytes)>(from_big_endian(value));
 }
 template <class Integer>
 void set(BigEndian<Integer> &field, std::type_identity_t<Integer> value)
 {
-    field.bytes = std::bit_cast<decltype(field.bytes)>(byte_swapped(value));
+    field.bytes = std::bit_cast<decltype(field.bytes)>(from_big_endian(value));
 }
 template <class Integer>
 void set(AsStored<Integer> &field, std::type_identity_t<Integer> value)
 {
-    field.bytes = std::bit_cast<decltype(field.bytes)>(value);
+    const bool is_here = stored_order == std::endian::native;
+    field.bytes = std::bit_cast<decltype(field.bytes)>(is_here ? value : byte_swapped(value));
 }
 
-/// A field of a record in host order: one that an earlier view has converted, or that the line card has stored.
+/// A field of a record that the line card has stored.
+template <class Integer>
+void set_stored(Number<Integer> &field, std::type_identity_t<Integer> value)
+{
+    AsStored<Integer> stored{};
+    set(stored, value);
+    field.bytes = stored.bytes;
+}
+
+/// The number in the last 24 bits of a word that the line card has stored as two bit-fields.
+inline void set_stored(FlagWord<wide(8), wide(24)> &packed, std::uint32_t number)
+{
+    StoredU32 stored{};
+    set(stored, stored_order == std::endian::little ? number << 8U : number);
+    packed.bytes = stored.bytes;
+}
+
+/// A field of a record that an earlier view has converted.
 template <class Integer>
 void set_converted(Number<Integer> &field, std::type_identity_t<Integer> value)
 {
@@ -42,9 +64,9 @@ void set_converted(Packed<Word, runs...> &packed, std::type_identity_t<Word> wor
 template <class Word, FieldRun... runs>
 void set_field(Packed<Word, runs...> &packed, unsigned field, std::type_identity_t<Word> value)
 {
-    const Word sent = byte_swapped(packed.word());
+    const Word sent = from_big_endian(packed.word());
     const auto others = static_cast<Word>(sent & ~packed.wire_bits(field, static_cast<Word>(~Word{0})));
-    set_converted(packed, byte_swapped(static_cast<Word>(others | packed.wire_bits(field, value))));
+    set_converted(packed, from_big_endian(static_cast<Word>(others | packed.wire_bits(field, value))));
 }
 
 /// Flags of a packed word.
@@ -60,11 +82,11 @@ void set_flags(Packed<Word, runs...> &packed, std::initializer_list<unsigned> fi
 template <FieldRun... runs>
 void set_flags(HardwareFlags<runs...> &flags, std::initializer_list<unsigned> bits)
 {
-    std::uint32_t sent = byte_swapped(flags.word());
+    std::uint32_t sent = from_big_endian(flags.word());
     for (const unsigned bit : bits) {
         sent |= std::uint32_t{1} << bit;
     }
-    set_converted(flags, byte_swapped(sent));
+    set_converted(flags, from_big_endian(sent));
 }
 
 inline void set_flags(UidbEntry &entry, std::initializer_list<UidbFlag> flags)

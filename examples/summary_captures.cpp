@@ -31,7 +31,7 @@ std::vector<std::uint8_t> make_state_summary()
 /// The value that was set.
 static std::uint64_t sent(const U32 &number)
 {
-    return byte_swapped(number.value());
+    return from_big_endian(number.value());
 }
 
 std::vector<std::uint8_t> make_event_statistics()

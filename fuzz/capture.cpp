@@ -50,6 +50,7 @@ static void compare(const Capture &capture, const Document &members)
     require(members.value("direction", "ingress") == capture.direction->name, "the direction is the line's");
     require(members.value("view", "none") == (capture.view == nullptr ? "none" : capture.view->name),
             "the view is the line's");
+    require(members.value("byte_order", "little") == capture.byte_order->name, "the byte order is the line's");
     require(members.value("time_zone", "UTC0") == router.time_zone, "the time zone is the line's");
     require(members.contains("wall_seconds") == router.clocks.has_value(), "there are clocks where the line has them");
     if (router.clocks) {
@@ -66,9 +67,10 @@ static void compare(const Capture &capture, const Document &members)
 
 static void compare(const Capture &capture, std::string_view line)
 {
-    constexpr std::string_view known[] = {
-        "object",       "show_data",         "node", "card", "direction", "view", "time_zone", "monotonic_seconds",
-        "wall_seconds", "virtual_interfaces"};
+    constexpr std::string_view known[] = {"object",       "show_data",         "node",
+                                          "card",         "direction",         "view",
+                                          "byte_order",   "time_zone",         "monotonic_seconds",
+                                          "wall_seconds", "virtual_interfaces"};
     std::vector<std::string> given;
     const auto note_member = [&](int depth, Document::parse_event_t event, const Document &name) {
         if (depth == 1 && event == Document::parse_event_t::key) {

@@ -32,6 +32,7 @@ static const Member members[] = {
     {{"card"}, numbers},
     {{"direction"}, {"\"ingress\"", "\"egress\""}},
     {{"view", "\\u0076iew"}, {"\"detail\"", "\"private\"", "\"inconsistent\""}},
+    {{"byte_order"}, {"\"little\"", "\"big\""}},
     {{"monotonic_seconds"}, numbers},
     {{"wall_seconds"}, numbers},
     {{"time_zone"}, {"\"UTC0\"", "\"CET-1CEST,M3.5.0,M10.5.0/3\"", "\"<+03>-3\"", "\":UTC0\""}},

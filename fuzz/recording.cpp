@@ -56,7 +56,7 @@ static void check_and_compare(const Capture &capture)
     Capture shown = capture;
     tree.begin(shown.show_data);
     record_view(shown, tree);
-    view.begin(tree, capture.show_data);
+    view.begin(tree, capture.show_data, capture.byte_order->order);
     for (const Finding &finding : check.check(*capture.object, view)) {
         for (const Statement &statement : finding.statements) {
             require(!statement.bytes || statement.bytes->offset + statement.bytes->width <= capture.show_data.size(),

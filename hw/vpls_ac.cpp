@@ -46,7 +46,7 @@ static void print_np(Output &out, std::uint32_t level, std::uint32_t direction, 
 static std::uint32_t print_egress(Output &out, std::uint32_t level, const AcContext &ac, std::uint32_t np_count,
                                   ShowData block)
 {
-    constexpr std::uint8_t bports_present = 0x01; // in the first byte; on the ingress side any bit of the word counts
+    constexpr std::uint32_t bports_present = 0x01; // on the ingress side, any bit of the word counts
     ShowDataCursor cursor{block};
     const auto [head, records] = cursor.take_together<VplsEgressBlock, VplsNpRecord>(1, np_count);
     if (head.empty()) {
@@ -59,7 +59,7 @@ static std::uint32_t print_egress(Output &out, std::uint32_t level, const AcCont
         if (record == nullptr) {
             return print_np_without_record(out, level, np);
         }
-        print_np(out, level, L2FIB_EGRESS, ac, np, *record, (record->bports_present.bytes[0] & bports_present) != 0);
+        print_np(out, level, L2FIB_EGRESS, ac, np, *record, (record->bports_present & bports_present) != 0);
     }
     return 0;
 }

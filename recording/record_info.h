@@ -51,6 +51,28 @@ constexpr FieldKind kind_in_record(FieldKind kind, bool is_stored)
     return is_stored && kind == FieldKind::number ? FieldKind::stored : kind;
 }
 
+/// The sizes of the numbers in a field that is stored: its own, or those of the bit-fields of a packed word.
+template <class FieldType>
+struct StoredNumbers {
+    static constexpr std::array<std::uint8_t, 1> sizes{sizeof(FieldType)};
+};
+template <class Word, FieldRun... runs>
+struct StoredNumbers<Packed<Word, runs...>> {
+    static_assert(((runs.count == 1 && runs.width % 8 == 0) && ...), "stored bit-fields are whole bytes");
+    static constexpr std::array<std::uint8_t, sizeof...(runs)> sizes{runs.width / 8 ...};
+};
+
+template <class FieldType, bool is_stored>
+constexpr std::span<const std::uint8_t> stored_numbers_of()
+{
+    constexpr FieldKind kind = kind_in_record(KindOf<FieldType>::kind, is_stored);
+    if constexpr (kind == FieldKind::stored || (is_stored && kind == FieldKind::packed)) {
+        return StoredNumbers<FieldType>::sizes;
+    } else {
+        return {};
+    }
+}
+
 template <class FieldType, bool is_stored = false>
 constexpr const recording::RecordInfo *record_of()
 {
@@ -73,7 +95,8 @@ constexpr FieldInfo field_info(std::string_view name, std::size_t &offset)
             sizeof(FieldType) / sizeof(One),
             std::is_array_v<FieldType>,
             kind_in_record(KindOf<One>::kind, is_stored),
-            record_of<One, is_stored>()};
+            record_of<One, is_stored>(),
+            stored_numbers_of<One, is_stored>()};
 }
 
 template <class List, bool is_stored>

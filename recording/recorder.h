@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <span>
 #include <string_view>
+#include <utility>
 
 namespace recording
 {
@@ -32,7 +33,8 @@ struct FieldInfo {
     std::size_t count;
     bool is_array;
     FieldKind kind;
-    const RecordInfo *record; ///< null unless it has fields of its own
+    const RecordInfo *record;             ///< null unless it has fields of its own
+    std::span<const std::uint8_t> stored; ///< the sizes of the numbers that the line card has stored in it
 };
 
 struct RecordInfo {
@@ -99,15 +101,27 @@ extern Recorder *current;
 
 /// Where the text of views goes. At first it goes nowhere.
 extern std::FILE *text_stream;
+extern std::FILE *const nowhere;
 
-/// Has views report to a recorder for as long as it lives.
+/// Has views report to a recorder for as long as it lives, and print to a stream.
 class Recording
 {
 public:
-    explicit Recording(Recorder &recorder) { current = &recorder; }
-    ~Recording() { current = nullptr; }
+    explicit Recording(Recorder &recorder, std::FILE *text = text_stream)
+        : recorder_before_(std::exchange(current, &recorder)), text_before_(std::exchange(text_stream, text))
+    {
+    }
+    ~Recording()
+    {
+        current = recorder_before_;
+        text_stream = text_before_;
+    }
     Recording(const Recording &) = delete;
     Recording &operator=(const Recording &) = delete;
+
+private:
+    Recorder *recorder_before_;
+    std::FILE *text_before_;
 };
 
 } // namespace recording

@@ -21,6 +21,13 @@ TEST_P(Samples, WholeScreen)
     EXPECT_EQ(screen.status, 0U);
 }
 
+TEST_P(Samples, WholeScreenOfLineCardsThatStoreTheOtherWay)
+{
+    capture = parse_capture(sample_line(GetParam(), std::endian::big)).capture;
+    const Shown screen = show(capture.show_data.size());
+    expect_golden(std::string(GetParam().name) + ".txt", screen.text);
+}
+
 TEST_P(Samples, StatusStandsWhereTheTextCannotGo)
 {
     std::fflush(stdout);

@@ -113,7 +113,7 @@ bool Check::take(Capture &capture, const CapturePlace &place)
     object.name = name_of(capture, xid, tree_);
     object.unchecked = reason_not_to_check(tree_, status);
     if (object.unchecked.empty()) {
-        view_.begin(tree_, received_);
+        view_.begin(tree_, received_, capture.byte_order->order);
         object.findings = object_check_.check(*capture.object, view_);
         across_.add(capture, xid, view_, place);
     }

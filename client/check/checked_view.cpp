@@ -26,7 +26,7 @@ void KeyIndex::begin(std::size_t keys)
 
 std::size_t KeyIndex::slot_of(std::uint64_t key) const
 {
-    std::size_t at = (key ^ key >> 32U) & mask_;
+    std::size_t at = static_cast<std::size_t>(key ^ key >> 32U) & mask_;
     while (slots_[at].number != none && slots_[at].key != key) {
         at = (at + 1) & mask_;
     }
@@ -45,10 +45,11 @@ std::uint32_t KeyIndex::find(std::uint64_t key) const
     return slots_[slot_of(key)].number;
 }
 
-void CheckedView::begin(const recording::Tree &tree, std::span<const std::uint8_t> received)
+void CheckedView::begin(const recording::Tree &tree, std::span<const std::uint8_t> received, std::endian stored_order)
 {
     tree_ = &tree;
     received_ = received;
+    stored_order_ = stored_order;
     index_patterns();
     find_nps();
     fill_rows();
@@ -226,9 +227,10 @@ std::optional<std::size_t> CheckedView::row_of(const TreeValue &value) const
 
 std::uint64_t CheckedView::number_at(std::size_t offset, std::size_t width, FieldKind kind) const
 {
+    const bool is_little_endian = kind == FieldKind::stored && stored_order_ == std::endian::little;
     std::uint64_t number = 0;
     for (std::size_t i = 0; i < std::min<std::size_t>(width, sizeof number); ++i) {
-        number = number << 8U | received_[offset + (kind == FieldKind::stored ? width - 1 - i : i)];
+        number = number << 8U | received_[offset + (is_little_endian ? width - 1 - i : i)];
     }
     return number;
 }

@@ -3,6 +3,7 @@
 
 #include "recording/tree.h"
 
+#include <bit>
 #include <span>
 #include <string>
 #include <vector>
@@ -45,7 +46,7 @@ class CheckedView
 {
 public:
     /// Looks at what a tree has taken down of show data that was received so.
-    void begin(const recording::Tree &tree, std::span<const std::uint8_t> received);
+    void begin(const recording::Tree &tree, std::span<const std::uint8_t> received, std::endian stored_order);
 
     [[nodiscard]] const recording::Tree &tree() const { return *tree_; }
     [[nodiscard]] std::span<const std::uint8_t> received() const { return received_; }
@@ -113,6 +114,7 @@ private:
 
     const recording::Tree *tree_ = nullptr;
     std::span<const std::uint8_t> received_;
+    std::endian stored_order_ = std::endian::little;
     KeyIndex by_pattern_;
     KeyIndex by_section_;             ///< and pattern
     std::vector<std::uint32_t> next_; ///< value of the same pattern

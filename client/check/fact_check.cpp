@@ -79,13 +79,13 @@ void FactCheck::collect_hidden(const FactPlace &place)
                                     [&](const recording::TreeSection &at) { return at.pattern == section; });
     const auto index = static_cast<std::uint32_t>(found - sections.begin());
     std::uint64_t number = held->number;
-    std::string text;
+    std::string_view text;
     if (place.bit != FactPlace::all_bits) {
         const auto bit = static_cast<std::size_t>(place.bit);
         number = (view_->received()[held->offset + bit / 8] >> (7 - bit % 8) & 1U) != 0 ? 1 : 0;
         text = number != 0 ? "on" : "off";
     }
-    said_.push_back({index, nullptr, number, text, "", ByteRange{held->offset, held->width}, place.path});
+    said_.push_back({index, nullptr, number, std::string(text), "", ByteRange{held->offset, held->width}, place.path});
 }
 
 /// An NP that shows no such line, as some do when a number is 0, holds the field all the same.

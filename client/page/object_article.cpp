@@ -20,7 +20,7 @@ void ObjectArticle::begin(Capture &capture, const CapturePlace &place, std::size
     const std::uint32_t status = record_view(capture, tree_);
     bytes_.begin(recorded_.show_data);
     record_view(recorded_, bytes_);
-    view_.begin(tree_, received_);
+    view_.begin(tree_, received_, capture.byte_order->order);
 
     object_.file = place.file;
     object_.line = place.line;

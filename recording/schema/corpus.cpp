@@ -2,7 +2,6 @@
 
 #include "client/capture_line.h"
 #include "examples/sample_lines.h"
-#include "recording/views.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -146,11 +145,9 @@ std::string line_of(const Capture &capture, const Rendering &rendering, const Or
 
 std::string text_of_recording(const Capture &capture, std::span<std::uint8_t> converted, recording::Recorder &recorder)
 {
-    static constexpr Library library{recording_print_internal, recording_platform_summary_hw_print_internal,
-                                     recording_platform_msg_counter_hw_print_internal, recording_trident_print_summary};
     return text_on(recording::text_stream, [&] {
         const recording::Recording recording(recorder);
-        capture.show(converted.empty() ? std::span<std::uint8_t>{} : converted, library);
+        capture.show(converted.empty() ? std::span<std::uint8_t>{} : converted, recording_library);
     });
 }
 

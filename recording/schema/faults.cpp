@@ -70,15 +70,17 @@ std::string fault_of_screen(const Capture &capture)
 }
 
 /// The number in some bytes; none in bytes that are no number of their own.
-static std::optional<std::uint64_t> number_in(std::span<const std::uint8_t> bytes, const recording::Place &place)
+static std::optional<std::uint64_t> number_in(std::span<const std::uint8_t> bytes, const recording::Place &place,
+                                              std::endian stored_order)
 {
     const auto kind = place.field == nullptr ? recording::FieldKind::number : place.field->kind;
     if (kind != recording::FieldKind::number && kind != recording::FieldKind::stored) {
         return std::nullopt;
     }
+    const bool is_little_endian = kind == recording::FieldKind::stored && stored_order == std::endian::little;
     std::uint64_t number = 0;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
-        number = number << 8U | bytes[kind == recording::FieldKind::number ? i : bytes.size() - 1 - i];
+        number = number << 8U | bytes[is_little_endian ? bytes.size() - 1 - i : i];
     }
     return number;
 }
@@ -128,7 +130,7 @@ std::string fault_of_bytes(const Capture &capture)
             return value.path + " is at no bytes";
         }
         const auto received = std::span(capture.show_data).subspan(value.place->offset, source.width);
-        const auto number = number_in(received, *value.place);
+        const auto number = number_in(received, *value.place, capture.byte_order->order);
         if (source.has_number && !source.is_part && number && low_bytes(source.number, source.width) != *number) {
             return value.path + " has another number than its bytes: " + std::to_string(*number);
         }

@@ -33,7 +33,7 @@ public:
         tree.begin(capture_.show_data);
         const std::uint32_t status = record_view(capture_, tree);
         unchecked = reason_not_to_check(tree, status);
-        view.begin(tree, received);
+        view.begin(tree, received, capture.byte_order->order);
     }
 
     /// All findings but those that are most often right.

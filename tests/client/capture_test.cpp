@@ -12,8 +12,8 @@ namespace l2fib
 TEST(Capture, LinesKeepEverything)
 {
     const std::string line =
-        R"({"object":"ac","node":3,"card":"0x1e1005","direction":"egress","view":"private","monotonic_seconds":7,)"
-        R"("wall_seconds":1763900000,"time_zone":"CET-1CEST,M3.5.0,M10.5.0/3","virtual_interfaces":["0x20","0x30"],)"
+        R"({"object":"ac","node":3,"card":"0x1e1005","direction":"egress","view":"private","byte_order":"big",)"
+        R"("monotonic_seconds":7,"wall_seconds":1763900000,"time_zone":"CET-1CEST,M3.5.0,M10.5.0/3","virtual_interfaces":["0x20","0x30"],)"
         R"("show_data":"00ff10"})";
     const CaptureLine parsed = parse_capture(line);
     ASSERT_EQ(parsed.error, "");
@@ -74,6 +74,7 @@ TEST(Capture, BrokenLines)
         {R"({"virtual_interfaces":[[1]]})", "virtual_interfaces: an array of numbers is needed"},
         {R"({"view":"raw"})", "view: unknown 'raw'"},
         {R"({"direction":"both"})", "direction: unknown 'both'"},
+        {R"({"byte_order":"host"})", "byte_order: unknown 'host'"},
         {R"({"time_zone":":/etc/passwd"})", "time_zone: no time zone: ':/etc/passwd'"},
         {R"({"object":"ac","show_data":"00","wall_seconds":1})",
          "one of monotonic_seconds and wall_seconds without the other"},

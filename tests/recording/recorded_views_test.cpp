@@ -1,5 +1,7 @@
 // What the recording build takes down of the views, and the lines that come of it: for the samples as every object,
 // view and direction, whole, cut short and changed, and for random bytes.
+#include "client/capture_line.h"
+#include "examples/sample_lines.h"
 #include "recording/schema/corpus.h"
 #include "recording/schema/faults.h"
 
@@ -87,6 +89,16 @@ TEST(RecordedLines, AreAsPublished)
 }
 
 /// The check itself: a line of each kind of fault.
+TEST(RecordedLines, SayTheSameOfLineCardsThatStoreTheOtherWay)
+{
+    for (const SampleCapture &sample : sample_captures) {
+        const Capture little = parse_capture(sample_line(sample)).capture;
+        const Capture big = parse_capture(sample_line(sample, std::endian::big)).capture;
+        EXPECT_EQ(line_of(big), line_of(little)) << sample.name;
+        EXPECT_EQ(fault_of_bytes(big), "") << sample.name;
+    }
+}
+
 TEST(RecordedLines, ThatAreNotAsPublishedAreFound)
 {
     const recording::PublishedSchema schema;

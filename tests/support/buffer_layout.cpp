@@ -42,7 +42,8 @@ void BufferLayout::set(std::vector<std::uint8_t> &bytes, const Values &values) c
     for (const auto &[name, value] : values) {
         const BufferField place = field(name);
         for (std::size_t i = 0; i < place.width; ++i) {
-            const std::size_t byte = place.is_stored ? i : place.width - 1 - i;
+            const bool is_little_endian = place.is_stored && !host_is_big_endian;
+            const std::size_t byte = is_little_endian ? i : place.width - 1 - i;
             bytes[place.offset + byte] = i < sizeof value ? static_cast<std::uint8_t>(value >> 8 * i) : std::uint8_t{0};
         }
     }
