@@ -27,7 +27,7 @@ constexpr std::string_view printf_argument(const char *text)
 {
     return text;
 }
-constexpr std::string_view printf_argument(const Literal &text)
+constexpr ShortText printf_argument(const Literal &text)
 {
     return {text.chars, text.size};
 }
@@ -37,16 +37,20 @@ constexpr auto printf_argument(const Field &field)
 {
     return field.value();
 }
-inline std::string_view printf_argument(const Text &text)
+inline ShortText printf_argument(const Text &text)
 {
     return text.view();
 }
+
+/// Whether printf_argument() gave a text.
+template <class Passed>
+constexpr bool is_text_argument = std::is_same_v<Passed, std::string_view> || std::is_same_v<Passed, ShortText>;
 
 /// How one argument is printed, and where the text before it is.
 struct Conversion {
     enum Kind : std::uint8_t { none, decimal, unsigned_decimal, hex, upper_hex, string };
 
-    static constexpr std::size_t longest_width = 64;
+    static constexpr std::size_t longest_width = longest_short_text;
 
     std::uint16_t at = 0;      ///< where in the format the text before it begins
     std::uint16_t literal = 0; ///< characters of that text
@@ -99,8 +103,8 @@ private:
 
     template <class Arg>
     using Passed = decltype(printf_argument(std::declval<const Arg &>()));
-    static constexpr bool is_text[sizeof...(Args) + 1] = {std::is_same_v<Passed<Args>, std::string_view>..., false};
-    static constexpr std::size_t longest[sizeof...(Args) + 1] = {(std::is_same_v<Passed<Args>, std::string_view>
+    static constexpr bool is_text[sizeof...(Args) + 1] = {is_text_argument<Passed<Args>>..., false};
+    static constexpr std::size_t longest[sizeof...(Args) + 1] = {(is_text_argument<Passed<Args>>
                                                                       ? Conversion::longest_width
                                                                   : sizeof(Passed<Args>) == 1 ? 4
                                                                   : sizeof(Passed<Args>) == 2 ? 6

@@ -35,8 +35,13 @@ public:
     template <class... Args>
     [[gnu::always_inline]] void item(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
-        separate();
-        text<Args...>(format, args...);
+        const bool wraps = column_ > wrap_column;
+        if (wraps) {
+            out_.continue_at(continuation_);
+            column_ = continuation_;
+        }
+        column_ += out_.item<Args...>(has_items_ && !wraps, format, args...);
+        has_items_ = true;
     }
 
     template <class... Args>
@@ -56,13 +61,11 @@ public:
         const std::uint32_t shown = table.shown(set) & considered;
         const Flags all(out_, word);
         all.unnamed(set & ~table.named());
-        for (const Flag &flag : table.rows) {
-            if (is_set(shown, flag.number)) {
-                const Literal &text = is_set(set, flag.number) ? flag.text : flag.text_when_clear;
-                item("%s", text);
-                all.add(text);
-            }
-        }
+        table.for_each(shown, [&](const Flag &flag) {
+            const Literal &text = is_set(set, flag.number) ? flag.text : flag.text_when_clear;
+            item("%s", text);
+            all.add(text);
+        });
     }
 
     /// The column at which the line begins.
@@ -74,7 +77,7 @@ public:
     /// Prints "None" when the list has no items.
     void none_if_empty()
     {
-        if (items_ == 0) {
+        if (!has_items_) {
             text("None");
         }
     }
@@ -82,23 +85,11 @@ public:
 private:
     static constexpr int wrap_column = 70;
 
-    void separate()
-    {
-        if (column_ > wrap_column) {
-            wrap();
-        } else if (items_ > 0) {
-            text(", ");
-        }
-        ++items_;
-    }
-
-    void wrap();
-
     Output &out_;
     std::int64_t indentation_; // 64 bits hold the column of any level
     std::int64_t column_;
     std::int64_t continuation_;
-    unsigned items_ = 0;
+    bool has_items_ = false;
 };
 
 /// A line with the texts of a flag table for a word, "None" when there are none.

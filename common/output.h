@@ -21,7 +21,8 @@ public:
     template <class... Args>
     [[gnu::always_inline]] int text(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
-        return text(format, std::index_sequence_for<Args...>(), printf_argument(args)...);
+        return print(Piece(room_for(format.room())), format, std::index_sequence_for<Args...>(),
+                     printf_argument(args)...);
     }
 
     /// Ends the line and prints the next one, except for its end.
@@ -29,8 +30,8 @@ public:
     [[gnu::always_inline]] void line(std::uint32_t level, const Format<std::type_identity_t<Args>...> &format,
                                      const Args &...args)
     {
-        line(level);
-        text<Args...>(format, args...);
+        print(Piece(begin_line(level, format.room())), format, std::index_sequence_for<Args...>(),
+              printf_argument(args)...);
     }
 
     /// Prints the first line of a show command: there is no line before it to end.
@@ -42,15 +43,24 @@ public:
         text<Args...>(format, args...);
     }
 
+    /// Prints an item of a list, with a comma before it when `follows`. Returns the number of characters.
+    template <class... Args>
+    [[gnu::always_inline]] int item(bool follows, const Format<std::type_identity_t<Args>...> &format,
+                                    const Args &...args)
+    {
+        return print(after_comma(follows, format.room()), format, std::index_sequence_for<Args...>(),
+                     printf_argument(args)...);
+    }
+
 private:
     template <class AnyFormat, std::size_t... indices, class... Values>
-    [[gnu::always_inline]] int text(const AnyFormat &format, std::index_sequence<indices...> /*all*/, Values... values)
+    [[gnu::always_inline]] int print(Piece piece, const AnyFormat &format, std::index_sequence<indices...> /*all*/,
+                                     Values... values)
     {
-        reserve(format.room());
-        std::size_t printed = 0;
-        ((printed += put_literal(format, indices), printed += put(format, format.conversion(indices), values)), ...);
-        printed += put_literal(format, sizeof...(Values));
-        return static_cast<int>(printed);
+        ((put_literal(piece, format, indices), put(piece, format, format.conversion(indices), values)), ...);
+        put_literal(piece, format, sizeof...(Values));
+        end(piece);
+        return static_cast<int>(piece.size());
     }
 };
 

@@ -1,6 +1,8 @@
 // Short texts that are made when they are printed.
 #pragma once
 
+#include "common/literal.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
@@ -12,11 +14,12 @@ namespace l2fib
 /// The text of one item.
 struct Text {
     static constexpr std::size_t capacity = 64;
+    static_assert(capacity <= longest_short_text);
 
     Text() = default;
     Text(std::string_view text) : size(std::min(text.size(), capacity)) { std::memcpy(chars, text.data(), size); }
 
-    [[nodiscard]] std::string_view view() const { return {chars, size}; }
+    [[nodiscard]] ShortText view() const { return {chars, size}; }
 
     char chars[capacity];
     std::size_t size = 0;

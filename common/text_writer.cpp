@@ -9,31 +9,55 @@ namespace l2fib
 void TextWriter::flush()
 {
     const auto size = static_cast<std::size_t>(next_ - buffer_);
-    std::fwrite(buffer_, 1, size, stream_); // whoever owns the stream looks at its error flag
-    next_ = buffer_;
+    if (size != 0) {
+        std::fwrite(buffer_, 1, size, stream_); // whoever owns the stream looks at its error flag
+        next_ = buffer_;
+    }
 }
 
-void TextWriter::put_many(char c, std::uint64_t count)
+void TextWriter::repeat(char c, std::uint64_t count)
 {
     while (count != 0) {
-        reserve(1);
-        const auto room = static_cast<std::size_t>(buffer_ + buffer_size - next_);
+        char *at = room_for(1);
+        const auto room = static_cast<std::size_t>(buffer_ + buffer_size - at);
         const auto fitting = static_cast<std::size_t>(std::min<std::uint64_t>(count, room));
-        std::memset(next_, c, fitting);
-        next_ += fitting;
+        std::memset(at, c, fitting);
+        next_ = at + fitting;
         count -= fitting;
     }
 }
 
-void TextWriter::put_long_string(std::string_view string)
+void TextWriter::continue_at(std::int64_t column)
+{
+    constexpr std::size_t few = 64;
+    char *at = copy(room_for(2 + few), ",\n", 2);
+    if (column >= 0 && column <= std::int64_t{few}) {
+        std::memset(at, ' ', few);
+        next_ = at + column;
+    } else {
+        next_ = at;
+        blanks(column);
+    }
+}
+
+char *TextWriter::begin_deep_line(std::uint32_t level, std::size_t size)
+{
+    *room_for(1) = '\n';
+    ++next_;
+    indent(level);
+    return room_for(size);
+}
+
+/// Prints a string of any length. Returns where the next characters go, for which it makes room.
+char *TextWriter::put_long_string(std::string_view string, std::size_t room_after)
 {
     if (string.size() <= buffer_size) {
-        reserve(string.size());
-        next_ = copy(next_, string.data(), string.size());
+        next_ = copy(room_for(string.size()), string.data(), string.size());
     } else {
         flush();
         std::fwrite(string.data(), 1, string.size(), stream_);
     }
+    return room_for(room_after);
 }
 
 } // namespace l2fib

@@ -24,88 +24,136 @@ public:
     void flush();
 
     /// Prints a character `count` times.
-    void repeat(char c, std::uint64_t count)
-    {
-        if (count > few) {
-            put_many(c, count);
-        } else {
-            reserve(few);
-            next_ = fill(next_, c, static_cast<std::size_t>(count));
-        }
-    }
+    void repeat(char c, std::uint64_t count);
 
     /// Pads as printf's "%*s" does with an empty string. A width that has overflowed to a negative one pads as well.
     int blanks(std::int64_t width)
     {
-        repeat(' ', static_cast<std::uint64_t>(width < 0 ? -width : width));
-        return static_cast<int>(width < 0 ? -width : width);
+        const std::int64_t count = width < 0 ? -width : width;
+        repeat(' ', static_cast<std::uint64_t>(count));
+        return static_cast<int>(count);
     }
 
     /// Prints the blanks before a line, two for each level.
-    int indent(std::uint32_t level) { return blanks(static_cast<std::int32_t>(2 * level)); }
+    int indent(std::uint32_t level) { return blanks(indentation(level)); }
 
     /// Ends the line and indents the next one. Returns the column.
     int line(std::uint32_t level)
     {
-        reserve(1 + few);
-        *next_++ = '\n';
-        return indent(level);
+        next_ = begin_line(level, 0);
+        const std::int64_t column = indentation(level);
+        return static_cast<int>(column < 0 ? -column : column);
     }
 
+    /// Ends a line of a list with a comma, and goes on at a column of the next one.
+    void continue_at(std::int64_t column);
+
 protected:
+    /// The text that a format makes. It grows in the buffer from where there was room for it.
+    struct Piece {
+        explicit Piece(char *start) : at(start), begin(start) {}
+
+        [[nodiscard]] std::size_t size() const { return gone + static_cast<std::size_t>(at - begin); }
+
+        char *at;
+        const char *begin;
+        std::size_t gone = 0; ///< characters that the buffer had no room for
+    };
+
     /// What has not gone to the stream yet.
     [[nodiscard]] std::string_view buffered() const { return {buffer_, static_cast<std::size_t>(next_ - buffer_)}; }
 
-    /// Makes room for `size` characters, at most buffer_size.
-    void reserve(std::size_t size)
+    /// Makes room for `size` characters, at most buffer_size. Returns where they go.
+    [[gnu::always_inline]] char *room_for(std::size_t size)
     {
-        if (next_ > buffer_ + buffer_size - size) {
+        if (next_ > buffer_ + buffer_size - size) [[unlikely]] {
             flush();
         }
+        return next_;
     }
 
-    // The pieces of a format's text, for which there is room. Each returns its number of characters. Inlined down to
-    // the characters, the compiler knows the format of each call, and what is left is what it prints.
+    /// Ends the line and indents the next one, where it makes room for `size` characters.
+    [[gnu::always_inline]] char *begin_line(std::uint32_t level, std::size_t size)
+    {
+        constexpr std::size_t blanks = 32;
+        if (level > blanks / 2) [[unlikely]] {
+            return begin_deep_line(level, size);
+        }
+        char *at = room_for(1 + blanks + size);
+        *at++ = '\n';
+        std::memset(at, ' ', blanks); // all of them, which takes less time than to count
+        return at + 2 * std::size_t{level};
+    }
+
+    /// A piece that begins with a comma when it follows another one, and has room for `size` characters after that.
+    [[gnu::always_inline]] Piece after_comma(bool follows, std::size_t size)
+    {
+        Piece piece(room_for(2 + size));
+        copy(piece.at, ", ", 2);
+        piece.at += follows ? 2 : 0;
+        return piece;
+    }
+
+    void end(const Piece &piece) { next_ = piece.at; }
+
+    // The parts of a format's text, for which there is room. Inlined down to the characters, the compiler knows the
+    // format of each call, and what is left is what it prints.
 
     /// The text before an argument, or after the last one.
     template <class AnyFormat>
-    [[gnu::always_inline]] std::size_t put_literal(const AnyFormat &format, std::size_t index)
+    [[gnu::always_inline]] static void put_literal(Piece &piece, const AnyFormat &format, std::size_t index)
     {
-        const std::size_t size = format.conversion(index).literal;
-        next_ = copy(next_, format.literal(index), size);
-        return size;
+        piece.at = copy(piece.at, format.literal(index), format.conversion(index).literal);
     }
 
     template <class AnyFormat, class Integer>
-    [[gnu::always_inline]] std::size_t put(const AnyFormat & /*format*/, Conversion conversion, Integer value)
+    requires std::integral<Integer>
+    [[gnu::always_inline]] void put(Piece &piece, const AnyFormat & /*format*/, Conversion conversion, Integer value)
     {
-        const char *begin = next_;
-        next_ = write_number(next_, conversion, number_bits(conversion.kind, value));
-        return static_cast<std::size_t>(next_ - begin);
+        piece.at = write_number(piece.at, conversion, number_bits(conversion.kind, value));
     }
 
     template <class AnyFormat>
-    [[gnu::always_inline]] std::size_t put(const AnyFormat &format, Conversion conversion, std::string_view string)
+    [[gnu::always_inline]] void put(Piece &piece, const AnyFormat & /*format*/, Conversion conversion, ShortText text)
     {
-        const std::size_t size = string.size();
-        if (size > Conversion::longest_width) {
-            put_long_string(string);
-            reserve(format.room());
-            return size;
+        put_padded(piece, conversion, text);
+    }
+
+    template <class AnyFormat>
+    [[gnu::always_inline]] void put(Piece &piece, const AnyFormat &format, Conversion conversion,
+                                    std::string_view string)
+    {
+        if (string.size() > Conversion::longest_width) [[unlikely]] {
+            piece.gone = piece.size() + string.size();
+            next_ = piece.at;
+            piece.at = put_long_string(string, format.room());
+            piece.begin = piece.at;
+        } else {
+            put_padded(piece, conversion, string);
         }
-        const std::size_t padding = conversion.width > size ? conversion.width - size : 0;
-        char *at = fill(next_, ' ', conversion.left_aligned ? 0 : padding);
-        at = copy(at, string.data(), size);
-        next_ = fill(at, ' ', conversion.left_aligned ? padding : 0);
-        return padding + size;
     }
 
 private:
     static constexpr std::size_t buffer_size = 4096;
-    static constexpr std::uint64_t few = 128;
 
-    void put_many(char c, std::uint64_t count);
-    void put_long_string(std::string_view string);
+    /// Two's complement, as the levels of the producer's printf calls wrap.
+    static constexpr std::int64_t indentation(std::uint32_t level) { return static_cast<std::int32_t>(2 * level); }
+
+    template <class AnyText>
+    [[gnu::always_inline]] static void put_padded(Piece &piece, Conversion conversion, AnyText text)
+    {
+        if (conversion.width == 0) {
+            piece.at = copy(piece.at, text.data(), text.size());
+            return;
+        }
+        const std::size_t padding = conversion.width > text.size() ? conversion.width - text.size() : 0;
+        char *at = conversion.left_aligned ? piece.at : fill(piece.at, ' ', padding);
+        at = copy(at, text.data(), text.size());
+        piece.at = conversion.left_aligned ? fill(at, ' ', padding) : at;
+    }
+
+    char *begin_deep_line(std::uint32_t level, std::size_t size);
+    char *put_long_string(std::string_view string, std::size_t room_after);
 
     std::FILE *stream_;
     char *next_ = buffer_;

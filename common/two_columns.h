@@ -38,7 +38,7 @@ public:
         const std::uint32_t set = set_flags(word);
         const Flags all(out_, word);
         all.unnamed(set & ~table.named());
-        for (const Flag &flag : table.rows) {
+        for (const Flag &flag : table.rows()) {
             const bool is_one = is_set(set, flag.number);
             item("%s: %d", flag.text, again(is_one ? 1 : 0));
             if (is_one) {

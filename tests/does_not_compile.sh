@@ -50,7 +50,8 @@ bad 'out.text("%s", field);'
 bad 'out.text("%d", "text");'
 bad 'out.text("%f", field);'
 bad 'out.text("100%");'
-bad 'out.text("%65s", "text");'
+bad 'out.text("%81s", "text");'
+bad "constexpr Literal text = \"$(printf '%081d' 0)\";"
 bad 'List{out, 1}.item("XID: 0x%08x", "text");'
 bad 'out.line(1, "NP%d", wide);'
 

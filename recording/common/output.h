@@ -48,14 +48,19 @@ public:
     template <class... Args>
     int text(const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
-        return text(format, std::index_sequence_for<Args...>(), args...);
+        return print(Piece(room_for(format.room())), format, std::index_sequence_for<Args...>(), args...);
     }
 
     template <class... Args>
     void line(std::uint32_t level, const Format<std::type_identity_t<Args>...> &format, const Args &...args)
     {
-        line(level);
-        text<Args...>(format, args...);
+        print(Piece(begin_line(level, format.room())), format, std::index_sequence_for<Args...>(), args...);
+    }
+
+    template <class... Args>
+    int item(bool follows, const Format<std::type_identity_t<Args>...> &format, const Args &...args)
+    {
+        return print(after_comma(follows, format.room()), format, std::index_sequence_for<Args...>(), args...);
     }
 
     template <class... Args>
@@ -73,7 +78,7 @@ public:
             recording::Source source = source_of_argument(noted);
             source.key = key;
             const auto value = printf_argument(noted);
-            if constexpr (std::is_same_v<decltype(value), const std::string_view>) {
+            if constexpr (is_text_argument<std::remove_const_t<decltype(value)>>) {
                 recorder_->value({recording::Value::text, false, 0, {}, value, source});
             } else {
                 recorder_->value({std::is_same_v<decltype(value), const bool> ? recording::Value::truth
@@ -93,23 +98,23 @@ public:
 
 private:
     template <class AnyFormat, std::size_t... indices, class... Args>
-    int text(const AnyFormat &format, std::index_sequence<indices...> /*all*/, const Args &...args)
+    int print(Piece piece, const AnyFormat &format, std::index_sequence<indices...> /*all*/, const Args &...args)
     {
-        reserve(format.room());
-        std::size_t printed = 0;
-        ((printed += put_literal(format, indices), printed += put_recorded(format, indices, args)), ...);
-        printed += put_literal(format, sizeof...(Args));
-        return static_cast<int>(printed);
+        ((put_literal(piece, format, indices), put_recorded(piece, format, indices, args)), ...);
+        put_literal(piece, format, sizeof...(Args));
+        end(piece);
+        return static_cast<int>(piece.size());
     }
 
     template <class AnyFormat, class Arg>
-    std::size_t put_recorded(const AnyFormat &format, std::size_t index, const Arg &arg)
+    void put_recorded(Piece &piece, const AnyFormat &format, std::size_t index, const Arg &arg)
     {
         const Conversion conversion = format.conversion(index);
         const auto value = printf_argument(arg);
-        const std::size_t size = put(format, conversion, value);
+        const char *const begin = piece.at;
+        put(piece, format, conversion, value);
         if (recorder_ == nullptr) {
-            return size;
+            return;
         }
         recording::Value recorded{recording::Value::text,
                                   sizeof value == sizeof(std::uint64_t),
@@ -117,19 +122,18 @@ private:
                                   {format.literal(index), conversion.literal},
                                   {},
                                   source_of_argument(arg)};
-        if constexpr (std::is_same_v<decltype(value), const std::string_view>) {
+        if constexpr (is_text_argument<std::remove_const_t<decltype(value)>>) {
             if (recorded.source.field == nullptr && recorded.source.key == nullptr) {
-                return size; // a text of the view's own
+                return; // a text of the view's own
             }
             recorded.printed = value;
         } else {
             recorded.kind =
                 std::is_same_v<decltype(value), const bool> ? recording::Value::truth : kind_of(conversion.kind);
             recorded.number = widened(value);
-            recorded.printed = buffered().substr(buffered().size() - size);
+            recorded.printed = {begin, static_cast<std::size_t>(piece.at - begin)};
         }
         recorder_->value(recorded);
-        return size;
     }
 
     static constexpr recording::Value::Kind kind_of(Conversion::Kind kind)

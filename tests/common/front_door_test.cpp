@@ -6,6 +6,7 @@
 #include "zel_l2fib/show.h"
 
 #include <algorithm>
+#include <cinttypes>
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <iomanip>
@@ -169,7 +170,7 @@ static std::uint32_t own_printer(std::uint32_t level, std::uint32_t objtype, std
                                  std::uint32_t direction, std::uint32_t view_flags, std::uint8_t * /*show_data*/,
                                  std::uint64_t size)
 {
-    std::printf("own printer: level %u, %s type, direction %u, flags %u, size %lu", level,
+    std::printf("own printer: level %u, %s type, direction %u, flags %u, size %" PRIu64, level,
                 objtype == node ? "its" : "another", direction, view_flags, size);
     return 5;
 }

@@ -85,7 +85,7 @@ TEST(Output, WhereverTheBufferEnds)
 {
     const std::string longer(5000, 'x');
     const std::string all = std::string(40, ' ') + "a: 0x0000002a, 42, <     forty-two>, <forty-two     >, " +
-                            std::string(64, 's') + "|" + std::string(65, 's') + "|" + longer + "|" +
+                            std::string(80, 's') + "|" + std::string(81, 's') + "|" + longer + "|" +
                             std::string(200, '.') + "\n";
     for (std::size_t before = 3500; before < 4300; ++before) {
         const std::string text = printed([&] {
@@ -94,7 +94,7 @@ TEST(Output, WhereverTheBufferEnds)
             out.indent(20);
             out.text("a: 0x%08x, %d, <%14s>, <%-14s>, ", std::uint32_t{42}, std::uint32_t{42}, "forty-two",
                      "forty-two");
-            out.text("%s|%s|%s|", std::string(64, 's').c_str(), std::string(65, 's').c_str(), longer.c_str());
+            out.text("%s|%s|%s|", std::string(80, 's').c_str(), std::string(81, 's').c_str(), longer.c_str());
             out.repeat('.', 200);
             out.text("\n");
         });

@@ -36,7 +36,7 @@ struct Passed<Literal> {
 };
 template <>
 struct Passed<Text> {
-    explicit Passed(const Text &text) { value[text.view().copy(value, Text::capacity)] = '\0'; }
+    explicit Passed(const Text &text) { value[std::string_view(text.view()).copy(value, Text::capacity)] = '\0'; }
     [[nodiscard]] const char *get() const { return value; }
 
     char value[Text::capacity + 1];
@@ -85,6 +85,19 @@ public:
     {
         line(level);
         text<Args...>(format, args...);
+    }
+
+    template <class... Args>
+    int item(bool follows, const Format<std::type_identity_t<Args>...> &format, const Args &...args)
+    {
+        const int comma = follows ? text(", ") : 0;
+        return comma + text<Args...>(format, args...);
+    }
+
+    void continue_at(std::int64_t column)
+    {
+        text(",\n");
+        blanks(column);
     }
 
     template <class... Args>
