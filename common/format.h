@@ -27,6 +27,10 @@ constexpr std::string_view printf_argument(const char *text)
 {
     return text;
 }
+constexpr std::string_view printf_argument(std::string_view text)
+{
+    return text;
+}
 constexpr ShortText printf_argument(const Literal &text)
 {
     return {text.chars, text.size};
@@ -37,14 +41,14 @@ constexpr auto printf_argument(const Field &field)
 {
     return field.value();
 }
-inline ShortText printf_argument(const Text &text)
+inline RoomyText printf_argument(const Text &text)
 {
     return text.view();
 }
 
 /// Whether printf_argument() gave a text.
 template <class Passed>
-constexpr bool is_text_argument = std::is_same_v<Passed, std::string_view> || std::is_same_v<Passed, ShortText>;
+constexpr bool is_text_argument = std::is_convertible_v<Passed, std::string_view>;
 
 /// How one argument is printed, and where the text before it is.
 struct Conversion {

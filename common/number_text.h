@@ -14,7 +14,6 @@ namespace l2fib
 // For most numbers: those without a sign, and hex filled with zeros.
 char *write_long_decimal(char *at, std::uint64_t value);
 char *write_long_right_aligned_decimal(char *at, unsigned width, std::uint64_t value);
-char *write_left_aligned_decimal(char *at, unsigned width, std::uint64_t value);
 char *write_hex(char *at, std::uint64_t value);
 char *write_zero_filled_hex(char *at, unsigned width, std::uint64_t value);
 
@@ -29,6 +28,13 @@ inline char *write_right_aligned_decimal(char *at, unsigned width, std::uint64_t
         return write_three_columns(fill(at, ' ', width - ThreeDigits::width), value);
     }
     return write_long_right_aligned_decimal(at, width, value);
+}
+
+inline char *write_left_aligned_decimal(char *at, unsigned width, std::uint64_t value)
+{
+    char *end = write_decimal(at, value);
+    const auto size = static_cast<std::size_t>(end - at);
+    return fill(end, ' ', width > size ? width - size : 0);
 }
 
 /// For all other numbers.

@@ -109,12 +109,14 @@ public:
         if constexpr (host_is_big_endian) {
             return;
         }
-        // Reversing all bits puts every field in its place. The bits inside a wide field are then reversed back.
-        Word host = bits_reversed(byte_swapped(word()));
+        // Reversing all bits puts every field in its place. Wide fields are then taken from the word as it was
+        // received, where their bits are in the order of a number's.
+        const Word received = byte_swapped(word());
+        Word host = bits_reversed(received);
         for (const Field field : wide_fields) {
-            const auto turned = static_cast<Word>(static_cast<Word>(host >> field.start) & mask(field));
-            const auto value = static_cast<Word>(bits_reversed(turned) >> (word_width - field.width));
-            host = static_cast<Word>((host & ~static_cast<Word>(mask(field) << field.start)) | value << field.start);
+            const auto value = static_cast<Word>(received >> (word_width - field.width - field.start) & mask(field))
+                               << field.start;
+            host = static_cast<Word>((host & ~static_cast<Word>(mask(field) << field.start)) | value);
         }
         const auto host_bytes = std::bit_cast<decltype(bytes)>(host);
         std::copy_n(host_bytes.begin(), (used_width + 7) / 8, bytes.begin());

@@ -7,7 +7,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <span>
+#include <string_view>
 #include <type_traits>
 
 namespace l2fib
@@ -62,13 +64,17 @@ public:
     /// The first bytes, all of them where there are fewer.
     [[nodiscard]] ShowData first(std::uint64_t size) const { return {begin_, std::min(size, size_)}; }
 
-    /// The string at an offset, or null unless it ends inside the show data.
-    [[nodiscard]] const char *string_at(std::uint64_t offset) const
+    /// The string at an offset, none unless it ends inside the show data.
+    [[nodiscard]] std::optional<std::string_view> string_at(std::uint64_t offset) const
     {
         const ShowData text = from(offset);
-        return text.size() != 0 && std::memchr(text.begin_, '\0', static_cast<std::size_t>(text.size())) != nullptr
-                   ? reinterpret_cast<const char *>(text.begin_)
-                   : nullptr;
+        const void *end =
+            text.size() == 0 ? nullptr : std::memchr(text.begin_, '\0', static_cast<std::size_t>(text.size()));
+        if (end == nullptr) {
+            return std::nullopt;
+        }
+        const auto *begin = reinterpret_cast<const char *>(text.begin_);
+        return std::string_view(begin, static_cast<std::size_t>(static_cast<const char *>(end) - begin));
     }
 
     /// The piece at an offset, without a check: the caller of the library has promised it.

@@ -11,6 +11,13 @@
 namespace l2fib
 {
 
+/// A short text after which there is room, so that it may be copied in blocks.
+class RoomyText : public ShortText
+{
+public:
+    using ShortText::ShortText;
+};
+
 /// The text of one item.
 struct Text {
     static constexpr std::size_t capacity = 64;
@@ -19,7 +26,7 @@ struct Text {
     Text() = default;
     Text(std::string_view text) : size(std::min(text.size(), capacity)) { std::memcpy(chars, text.data(), size); }
 
-    [[nodiscard]] ShortText view() const { return {chars, size}; }
+    [[nodiscard]] RoomyText view() const { return {chars, size}; }
 
     char chars[capacity];
     std::size_t size = 0;

@@ -6,16 +6,13 @@
 namespace l2fib
 {
 
-void TextWriter::flush()
+void TextWriter::write_out()
 {
-    const auto size = static_cast<std::size_t>(next_ - buffer_);
-    if (size != 0) {
-        std::fwrite(buffer_, 1, size, stream_); // whoever owns the stream looks at its error flag
-        next_ = buffer_;
-    }
+    std::fwrite(buffer_, 1, static_cast<std::size_t>(next_ - buffer_), stream_); // its owner looks at its error flag
+    next_ = buffer_;
 }
 
-void TextWriter::repeat(char c, std::uint64_t count)
+void TextWriter::repeat_often(char c, std::uint64_t count)
 {
     while (count != 0) {
         char *at = room_for(1);

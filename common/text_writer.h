@@ -21,10 +21,23 @@ public:
     TextWriter(const TextWriter &) = delete;
     TextWriter &operator=(const TextWriter &) = delete;
 
-    void flush();
+    void flush()
+    {
+        if (next_ != buffer_) {
+            write_out();
+        }
+    }
 
     /// Prints a character `count` times.
-    void repeat(char c, std::uint64_t count);
+    void repeat(char c, std::uint64_t count)
+    {
+        constexpr std::size_t few = 64;
+        if (count <= few) {
+            next_ = fill(room_for(few), c, static_cast<std::size_t>(count));
+        } else {
+            repeat_often(c, count);
+        }
+    }
 
     /// Pads as printf's "%*s" does with an empty string. A width that has overflowed to a negative one pads as well.
     int blanks(std::int64_t width)
@@ -67,7 +80,7 @@ protected:
     [[gnu::always_inline]] char *room_for(std::size_t size)
     {
         if (next_ > buffer_ + buffer_size - size) [[unlikely]] {
-            flush();
+            write_out();
         }
         return next_;
     }
@@ -118,6 +131,11 @@ protected:
     {
         put_padded(piece, conversion, text);
     }
+    template <class AnyFormat>
+    [[gnu::always_inline]] void put(Piece &piece, const AnyFormat & /*format*/, Conversion conversion, RoomyText text)
+    {
+        put_padded(piece, conversion, text);
+    }
 
     template <class AnyFormat>
     [[gnu::always_inline]] void put(Piece &piece, const AnyFormat &format, Conversion conversion,
@@ -139,19 +157,30 @@ private:
     /// Two's complement, as the levels of the producer's printf calls wrap.
     static constexpr std::int64_t indentation(std::uint32_t level) { return static_cast<std::int32_t>(2 * level); }
 
+    [[gnu::always_inline]] static char *copy_text(char *to, std::string_view text)
+    {
+        return copy(to, text.data(), text.size());
+    }
+    [[gnu::always_inline]] static char *copy_text(char *to, RoomyText text)
+    {
+        return copy_blocks(to, text.data(), text.size());
+    }
+
     template <class AnyText>
     [[gnu::always_inline]] static void put_padded(Piece &piece, Conversion conversion, AnyText text)
     {
-        if (conversion.width == 0) {
-            piece.at = copy(piece.at, text.data(), text.size());
-            return;
-        }
         const std::size_t padding = conversion.width > text.size() ? conversion.width - text.size() : 0;
-        char *at = conversion.left_aligned ? piece.at : fill(piece.at, ' ', padding);
-        at = copy(at, text.data(), text.size());
-        piece.at = conversion.left_aligned ? fill(at, ' ', padding) : at;
+        if (conversion.width == 0) {
+            piece.at = copy_text(piece.at, text);
+        } else if (conversion.left_aligned) {
+            piece.at = fill(copy_text(piece.at, text), ' ', padding);
+        } else {
+            piece.at = copy_text(fill(piece.at, ' ', padding), text);
+        }
     }
 
+    void write_out();
+    void repeat_often(char c, std::uint64_t count);
     char *begin_deep_line(std::uint32_t level, std::size_t size);
     char *put_long_string(std::string_view string, std::size_t room_after);
 

@@ -113,11 +113,11 @@ static bool print_record(Report &report, const TlvHeader &header, ShowData recor
         return true;
     }
     case tlv_string: {
-        const char *string = record.string_at(sizeof header);
-        if (string == nullptr) {
+        const auto string = record.string_at(sizeof header);
+        if (!string) {
             return false;
         }
-        report.value(header.verdict, "%s ", from_field(string, *string, "text"));
+        report.value(header.verdict, "%s ", from_field(*string, *string->data(), "text"));
         return true;
     }
     case tlv_end_of_line: report.end_line(); return true;

@@ -4,9 +4,9 @@
 #include "common/formatters.h"
 #include "common/list.h"
 
-#include <algorithm>
 #include <array>
-#include <span>
+#include <bit>
+#include <cstring>
 
 namespace l2fib
 {
@@ -144,19 +144,54 @@ static consteval bool is_well_formed()
 }
 static_assert(is_well_formed());
 
-/// The flags that a direction lists in one group. The compiler picks them.
-template <Group UidbFlagItem::*direction, Group group>
-static constexpr auto listed_flags = [] {
-    constexpr auto is_listed = [](const UidbFlagItem &item) { return item.*direction == group; };
-    constexpr auto count = std::count_if(std::begin(uidb_flags), std::end(uidb_flags), is_listed);
-    std::array<const UidbFlagItem *, count> listed{};
-    std::size_t next = 0;
+constexpr std::size_t flag_bytes = std::tuple_size_v<decltype(UidbEntry::flags)>;
+
+/// Flags as the bits of two numbers, from the top bit down: so they are in print order.
+using UidbFlagSet = std::array<std::uint64_t, 2>;
+static_assert(flag_bytes > sizeof(std::uint64_t) && flag_bytes <= sizeof(UidbFlagSet));
+
+constexpr unsigned bits_of_half = 64;
+
+/// The place of a flag in a set, from the top.
+static constexpr unsigned place_of(UidbFlag flag)
+{
+    const auto byte = static_cast<unsigned>(flag.byte - offsetof(UidbEntry, flags));
+    return 8 * byte + static_cast<unsigned>(std::countl_zero(flag.mask));
+}
+
+static constexpr std::uint64_t bit_of(unsigned place)
+{
+    return std::uint64_t{1} << (bits_of_half - 1 - place % bits_of_half);
+}
+
+template <class Wanted>
+static consteval UidbFlagSet flags_that(const Wanted &are_wanted)
+{
+    UidbFlagSet flags{};
     for (const UidbFlagItem &item : uidb_flags) {
-        if (is_listed(item)) {
-            listed[next++] = &item;
+        if (are_wanted(item)) {
+            flags[place_of(item.flag) / bits_of_half] |= bit_of(place_of(item.flag));
         }
     }
-    return listed;
+    return flags;
+}
+
+/// The flags that a direction lists in one group.
+template <Group UidbFlagItem::*direction, Group group>
+static constexpr UidbFlagSet listed_flags = flags_that([](const UidbFlagItem &item) {
+    return item.*direction == group;
+});
+
+static constexpr UidbFlagSet flags_with_text_when_clear =
+    flags_that([](const UidbFlagItem &item) { return item.text_when_clear.size != 0; });
+
+/// Which flag is at a place of a set.
+static constexpr auto item_at = [] {
+    std::array<std::uint8_t, bits_of_half * std::tuple_size_v<UidbFlagSet>> items{};
+    for (std::size_t i = 0; i < std::size(uidb_flags); ++i) {
+        items[place_of(uidb_flags[i].flag)] = static_cast<std::uint8_t>(i);
+    }
+    return items;
 }();
 
 static bool is_set(const UidbEntry &entry, UidbFlag flag)
@@ -164,26 +199,43 @@ static bool is_set(const UidbEntry &entry, UidbFlag flag)
     return (entry.flags[flag.byte - offsetof(UidbEntry, flags)] & flag.mask) != 0;
 }
 
+/// The flags that are set in an entry.
+static UidbFlagSet flags_of(const UidbEntry &entry)
+{
+    Bytes<sizeof(UidbFlagSet)> bytes{};
+    std::memcpy(bytes.data(), entry.flags.data(), flag_bytes);
+    auto flags = std::bit_cast<UidbFlagSet>(bytes);
+    for (std::uint64_t &half : flags) {
+        half = from_big_endian(half);
+    }
+    return flags;
+}
+
 static void print_flag_line(Output &out, std::uint32_t level, bool ingress, const UidbEntry &entry)
 {
     List line{out, level, "Flags"};
     const Flags all(out, entry.flags);
-    const auto list = [&](std::span<const UidbFlagItem *const> items) {
-        for (const UidbFlagItem *item : items) {
-            const Literal &text = is_set(entry, item->flag) ? item->text : item->text_when_clear;
-            if (text.size != 0) {
+    const UidbFlagSet flags = flags_of(entry);
+    const auto list = [&](const UidbFlagSet &listed) {
+        for (unsigned half = 0; half < listed.size(); ++half) {
+            std::uint64_t left = listed[half] & (flags[half] | flags_with_text_when_clear[half]);
+            while (left != 0) {
+                const auto place = static_cast<unsigned>(std::countl_zero(left));
+                const UidbFlagItem &item = uidb_flags[item_at[half * bits_of_half + place]];
+                const Literal &text = (flags[half] & bit_of(place)) != 0 ? item.text : item.text_when_clear;
                 line.item("%s", text);
                 all.add(text);
+                left &= ~bit_of(place);
             }
         }
     };
     const bool selected = is_set(entry, UidbEntry::group_selector);
     if (ingress) {
         list(listed_flags<&UidbFlagItem::ingress, base>);
-        selected ? list(listed_flags<&UidbFlagItem::ingress, set>) : list(listed_flags<&UidbFlagItem::ingress, clear>);
+        list(selected ? listed_flags<&UidbFlagItem::ingress, set> : listed_flags<&UidbFlagItem::ingress, clear>);
     } else {
         list(listed_flags<&UidbFlagItem::egress, base>);
-        selected ? list(listed_flags<&UidbFlagItem::egress, set>) : list(listed_flags<&UidbFlagItem::egress, clear>);
+        list(selected ? listed_flags<&UidbFlagItem::egress, set> : listed_flags<&UidbFlagItem::egress, clear>);
     }
 }
 

@@ -6,21 +6,6 @@
 namespace l2fib
 {
 
-constexpr Literal front_door = "zel_l2fib_print_internal";
-
-/// Refuses show data that ends inside the RP context. The RP's views do not check that: their callers promise it.
-static std::uint32_t show_checked(Output &out, ViewKind view, const ViewRequest &request)
-{
-    const ShowData data = request.data();
-    const std::uint64_t end = data.is_null() ? 0 : context_end(view, request);
-    if (data.size() < end) {
-        const Failure failure(out);
-        out.text("\n%s: data_size is %zd, expecting at least %zd", front_door, data.size(), end);
-        return L2FIB_SHOW_ERR_DATA;
-    }
-    return view == ViewKind::private_context ? show_private(out, request) : show_detail(out, request);
-}
-
 static std::uint32_t show_object(Output &out, const ViewRequest &request)
 {
     fill_hal_table();
@@ -28,7 +13,7 @@ static std::uint32_t show_object(Output &out, const ViewRequest &request)
         return 0;
     }
     const ViewKind view = selected_view(request.view_flags);
-    return view == ViewKind::inconsistency ? show_inconsistency(out, request) : show_checked(out, view, request);
+    return view == ViewKind::inconsistency ? show_inconsistency(out, request) : show_whole_context(out, view, request);
 }
 
 } // namespace l2fib

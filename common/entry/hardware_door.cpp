@@ -34,14 +34,12 @@ static constexpr HardwareObject hardware_objects[] = {
     {L2FIB_OBJTYPE_BRIDGE_MAC, show_mac, nullptr},
 };
 
+static constexpr ByObjtype hardware_object{hardware_objects};
+
 static HardwareView view_of(std::uint32_t objtype, HardwareView HardwareObject::*view)
 {
-    for (const HardwareObject &object : hardware_objects) {
-        if (object.objtype == objtype) {
-            return object.*view;
-        }
-    }
-    return nullptr;
+    const HardwareObject *object = hardware_object.find(objtype);
+    return object == nullptr ? nullptr : object->*view;
 }
 
 static std::uint32_t show_hardware_detail(Output &out, std::uint32_t level, const ViewRequest &request)

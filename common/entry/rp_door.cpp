@@ -9,11 +9,10 @@
 #include "rp/detail.h"
 #include "rp/private.h"
 
-#include <optional>
-
 namespace l2fib
 {
 
+constexpr Literal front_door = "zel_l2fib_print_internal";
 constexpr Literal detail_view = "zel_l2fib_print_internal_detail";
 constexpr Literal private_view = "zel_l2fib_print_internal_private";
 constexpr Literal inconsistency_view = "zel_l2fib_print_internal_inconsistent";
@@ -35,34 +34,16 @@ static constexpr RpObject rp_objects[] = {
     {L2FIB_OBJTYPE_BRIDGE_MAC, &bridge_mac_detail, nullptr, 1},
 };
 
-static const RpObject *rp_object(std::uint32_t objtype)
-{
-    for (const RpObject &object : rp_objects) {
-        if (object.objtype == objtype) {
-            return &object;
-        }
-    }
-    return nullptr;
-}
+static constexpr ByObjtype rp_object{rp_objects};
 
-/// Whether a view has to end before it begins, and with which status.
-static std::optional<std::uint32_t> refusal(Output &out, const Literal &view, const ViewRequest &request)
+static std::uint32_t show_detail(Output &out, const RpObject *object, const ViewRequest &request)
 {
     if (request.show_data == nullptr) {
-        return null_show_data(out, view, request.objtype);
+        return null_show_data(out, detail_view, request.objtype);
     }
-    return check_card(out, request.node_id) ? std::nullopt : std::optional<std::uint32_t>{0};
-}
-
-std::uint32_t show_detail(Output &out, const ViewRequest &request)
-{
-    if (const auto status = refusal(out, detail_view, request)) {
-        return *status;
+    if (!check_card(out, request.node_id) || request.objtype == L2FIB_OBJTYPE_MCAST_LEAF) {
+        return 0; // of a leaf, which is a known object, there is nothing to show
     }
-    if (request.objtype == L2FIB_OBJTYPE_MCAST_LEAF) {
-        return 0; // a known object with nothing to show
-    }
-    const RpObject *object = rp_object(request.objtype);
     if (object == nullptr) {
         const Section rp(out, "rp");
         return wrong_objtype(out, detail_view, request.objtype);
@@ -83,12 +64,14 @@ static void print_not_handled(Output &out, std::uint32_t objtype)
     wrong_objtype(out, private_view, objtype);
 }
 
-std::uint32_t show_private(Output &out, const ViewRequest &request)
+static std::uint32_t show_private(Output &out, const RpObject *object, const ViewRequest &request)
 {
-    if (const auto status = refusal(out, private_view, request)) {
-        return *status;
+    if (request.show_data == nullptr) {
+        return null_show_data(out, private_view, request.objtype);
     }
-    const RpObject *object = rp_object(request.objtype);
+    if (!check_card(out, request.node_id)) {
+        return 0;
+    }
     if (object == nullptr || object->private_context == nullptr) { // some objects have a hardware part only
         print_not_handled(out, request.objtype);
         return hand_over(out, 1, request);
@@ -100,7 +83,6 @@ std::uint32_t show_private(Output &out, const ViewRequest &request)
     return hand_over(out, object->level, request);
 }
 
-/// The RP's report on an object, then the hardware's.
 std::uint32_t show_inconsistency(Output &out, const ViewRequest &request)
 {
     if (!card_is_supported(request.node_id)) {
@@ -127,16 +109,30 @@ std::uint32_t show_inconsistency(Output &out, const ViewRequest &request)
     return hand_over(out, 1, rest);
 }
 
-std::uint64_t context_end(ViewKind view, const ViewRequest &request)
+/// How many bytes of show data the view reads without a check. Where a count decides and the show data ends before it,
+/// this is the size of the record with the count. 0 for objects of which the view reads nothing.
+static std::uint64_t context_end(ViewKind view, const RpObject *object, ShowData data)
 {
-    const RpObject *object = rp_object(request.objtype);
-    if (object == nullptr) {
+    if (object == nullptr || data.is_null()) {
         return 0;
     }
     if (view == ViewKind::private_context) {
-        return object->private_context == nullptr ? 0 : object->private_context->context_end(request.data());
+        return object->private_context == nullptr ? 0 : object->private_context->context_end(data);
     }
-    return object->detail == nullptr ? 0 : object->detail->context_end(request.data());
+    return object->detail == nullptr ? 0 : object->detail->context_end(data);
+}
+
+std::uint32_t show_whole_context(Output &out, ViewKind view, const ViewRequest &request)
+{
+    const RpObject *object = rp_object.find(request.objtype);
+    const ShowData data = request.data();
+    const std::uint64_t end = context_end(view, object, data);
+    if (data.size() < end) {
+        const Failure failure(out);
+        out.text("\n%s: data_size is %zd, expecting at least %zd", front_door, data.size(), end);
+        return L2FIB_SHOW_ERR_DATA;
+    }
+    return view == ViewKind::private_context ? show_private(out, object, request) : show_detail(out, object, request);
 }
 
 } // namespace l2fib
@@ -145,14 +141,16 @@ uint32_t zel_l2fib_print_internal_detail(uint32_t objtype, uint32_t node_id, uin
                                          uint8_t *show_data, uint64_t size)
 {
     l2fib::Output out;
-    return l2fib::show_detail(out, {objtype, node_id, direction, view_flags, show_data, size});
+    return l2fib::show_detail(out, l2fib::rp_object.find(objtype),
+                              {objtype, node_id, direction, view_flags, show_data, size});
 }
 
 uint32_t zel_l2fib_print_internal_private(uint32_t objtype, uint32_t node_id, uint32_t direction, uint32_t view_flags,
                                           uint8_t *show_data, uint64_t size)
 {
     l2fib::Output out;
-    return l2fib::show_private(out, {objtype, node_id, direction, view_flags, show_data, size});
+    return l2fib::show_private(out, l2fib::rp_object.find(objtype),
+                               {objtype, node_id, direction, view_flags, show_data, size});
 }
 
 uint32_t zel_l2fib_print_internal_inconsistent(uint32_t objtype, uint32_t node_id, uint32_t direction,

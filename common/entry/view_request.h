@@ -24,20 +24,10 @@ enum class ViewKind : std::uint8_t { none, detail, private_context, inconsistenc
 /// The view that the flags select. Of several flags, the strongest one counts.
 constexpr ViewKind selected_view(std::uint32_t view_flags)
 {
-    constexpr struct {
-        std::uint32_t flag;
-        ViewKind view;
-    } by_strength[] = {
-        {L2FIB_VIEW_INCONSISTENT, ViewKind::inconsistency},
-        {L2FIB_VIEW_PRIVATE, ViewKind::private_context},
-        {L2FIB_VIEW_DETAIL, ViewKind::detail},
-    };
-    for (const auto &row : by_strength) {
-        if ((view_flags & row.flag) != 0) {
-            return row.view;
-        }
-    }
-    return ViewKind::none;
+    return (view_flags & L2FIB_VIEW_INCONSISTENT) != 0 ? ViewKind::inconsistency
+           : (view_flags & L2FIB_VIEW_PRIVATE) != 0    ? ViewKind::private_context
+           : (view_flags & L2FIB_VIEW_DETAIL) != 0     ? ViewKind::detail
+                                                       : ViewKind::none;
 }
 
 } // namespace l2fib

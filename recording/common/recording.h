@@ -5,7 +5,6 @@
 #include "common/text.h"
 #include "recording/recorder.h"
 
-#include <cstring>
 #include <string_view>
 #include <type_traits>
 
@@ -65,8 +64,8 @@ FromField<Made> from_field(Made value, const Field &field, const char *key = nul
     FromField<Made> from{value, source_of(field)};
     from.source.key = key;
     from.source.is_made = true;
-    if constexpr (std::is_same_v<Made, const char *>) {
-        from.source.width = std::strlen(value) + 1; // with its terminating zero
+    if constexpr (std::is_same_v<Made, std::string_view>) {
+        from.source.width = value.size() + 1; // with its terminating zero
     }
     return from;
 }

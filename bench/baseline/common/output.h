@@ -28,6 +28,13 @@ struct Passed<const char *> {
     const char *value;
 };
 template <>
+struct Passed<std::string_view> { // of the show data, where a zero follows it
+    explicit Passed(std::string_view text) : value(text.data()) {}
+    [[nodiscard]] const char *get() const { return value; }
+
+    const char *value;
+};
+template <>
 struct Passed<Literal> {
     explicit Passed(const Literal &text) : value(text.chars) {}
     [[nodiscard]] const char *get() const { return value; }
