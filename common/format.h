@@ -62,6 +62,9 @@ struct Conversion {
     Kind kind = none; ///< none after the last argument
     bool left_aligned = false;
     bool zero_filled = false;
+
+    /// As the parts of a time are printed.
+    [[nodiscard]] constexpr bool is_two_digits() const { return width == 2 && zero_filled && !left_aligned; }
 };
 
 template <class... Args>

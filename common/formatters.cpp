@@ -27,11 +27,12 @@ Text timestamp_of(std::uint64_t stamp)
     const std::time_t wall = static_cast<std::uint32_t>(wall_now - monotonic_seconds + stamp / ns_per_second);
     tzset(); // the zone may have changed since the last call, which localtime_r alone does not notice
     std::tm local{};
-    Text time;
-    if (localtime_r(&wall, &local) != nullptr) {
-        time.size = std::strftime(time.chars, Text::capacity, "%m/%d/%Y %H:%M:%S", &local);
+    if (localtime_r(&wall, &local) == nullptr) {
+        return {"unknown_time"};
     }
-    return time.size != 0 ? time : Text{"unknown_time"};
+    const auto part = [](int number) { return static_cast<std::uint16_t>(number); };
+    return number_text("%02u/%02u/%u %02u:%02u:%02u", part(local.tm_mon + 1), part(local.tm_mday),
+                       part(local.tm_year + 1900), part(local.tm_hour), part(local.tm_min), part(local.tm_sec));
 }
 
 Text shg_of(std::uint32_t group)

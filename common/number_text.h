@@ -53,6 +53,9 @@ char *write_padded_number(char *at, Conversion conversion, std::uint64_t value);
         return conversion.left_aligned ? write_left_aligned_decimal(at, conversion.width, value)
                                        : write_right_aligned_decimal(at, conversion.width, value);
     }
+    if (is_decimal && conversion.is_two_digits() && value < 100) {
+        return write_three_digits(at, value, 2);
+    }
     if (conversion.kind == Conversion::hex && conversion.width == 0) {
         return write_hex(at, value);
     }

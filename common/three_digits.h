@@ -49,22 +49,28 @@ inline char *write_three_columns(char *at, std::uint64_t value)
     return at + ThreeDigits::width;
 }
 
-/// "007"
-inline char *write_three_digits(char *at, std::uint64_t value)
+/// The last `count` of three columns, in their order in memory.
+inline std::uint32_t last_columns(std::uint32_t columns, unsigned count)
 {
+    const unsigned others = 8 * (ThreeDigits::width - count);
+    return host_is_big_endian ? columns << others : columns >> others;
+}
+
+/// "007", or the last `count` of these digits
+inline char *write_three_digits(char *at, std::uint64_t value, unsigned count = ThreeDigits::width)
+{
+    constexpr std::uint32_t blanks_to_zeros = 0x30303030;
     const std::uint32_t digits =
-        std::bit_cast<std::uint32_t>(three_digits_of(value)) | 0x30303030U; // blanks become zeros
+        last_columns(std::bit_cast<std::uint32_t>(three_digits_of(value)) | blanks_to_zeros, count);
     std::memcpy(at, &digits, sizeof digits);
-    return at + ThreeDigits::width;
+    return at + count;
 }
 
 /// "7"
 inline char *write_few_digits(char *at, std::uint64_t value)
 {
     const unsigned count = three_digits_of(value).digits;
-    const unsigned blanks = ThreeDigits::width - count;
-    const auto columns = std::bit_cast<std::uint32_t>(three_digits_of(value));
-    const std::uint32_t digits = host_is_big_endian ? columns << 8 * blanks : columns >> 8 * blanks;
+    const std::uint32_t digits = last_columns(std::bit_cast<std::uint32_t>(three_digits_of(value)), count);
     std::memcpy(at, &digits, sizeof digits);
     return at + count;
 }

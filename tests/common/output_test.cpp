@@ -74,6 +74,8 @@ TEST(Output, NumbersAsPrintf)
     EXPECT_AS_PRINTF(std::uint16_t, "%04x");
     EXPECT_AS_PRINTF(std::uint16_t, "%d");
     EXPECT_AS_PRINTF(std::uint8_t, "%02x");
+    EXPECT_AS_PRINTF(std::uint16_t, "%02u:");
+    EXPECT_AS_PRINTF(std::int32_t, "%02d:");
     EXPECT_AS_PRINTF(std::uint8_t, "%d");
     EXPECT_AS_PRINTF(std::uint64_t, "%lu");
     EXPECT_AS_PRINTF(std::uint64_t, "%zd");
