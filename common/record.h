@@ -111,7 +111,7 @@ consteval std::string_view field_name()
 }
 
 /// Converts neighbouring numbers of 16 bits in place, four at a time. A bridge has 272 of them. One by one, they add
-/// 43% to the instructions of its private view.
+/// 56% to the instructions of its private view.
 template <std::size_t count>
 void convert_halves(U16 (&numbers)[count])
 {
