@@ -37,6 +37,13 @@ perl -e 'print "{", "\t" x (8 << 20), "x"' | within $bound 'l2fib-show: -:1: bro
 perl -e 'print "{\"object\":\"ac\",\"virtual_interfaces\":[", "1," x (4 << 20), "2],\"show_data\":\"\"}\n" for 1 .. 3' |
     within $bound 'l2fib-show: no capture fits --status ok (of 3)' -- --status ok
 
+# What is compressed takes the window of its compressor more, however much it is.
+perl -e 'print " " x (1 << 20), "\n" for 1 .. 64' >blank
+xz -9 <blank >blank.xz
+zstd -q --ultra -22 --long=27 <blank >blank.zst
+within $((bound + 68)) '' -- blank.xz
+within $((bound + 130)) '' -- blank.zst
+
 # Text that is chosen by its status is not kept: 48 MB of it.
 perl -e 'print "{\"object\":\"ac\",\"view\":\"inconsistent\",\"show_data\":\"",
          "03040200040301" x ((4 << 20) / 7), "\"}\n"' >long
