@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 namespace l2fib
@@ -23,6 +24,12 @@ ByteSource::~ByteSource()
     if (file_ >= 0 && file_ != STDIN_FILENO) {
         close(file_);
     }
+}
+
+bool ByteSource::is_ready() const
+{
+    pollfd file{file_, POLLIN, 0};
+    return !unread_.empty() || is_room_short_ || poll(&file, 1, 0) != 0;
 }
 
 void ByteSource::fail(const std::string &why)
