@@ -17,6 +17,7 @@ ByteSource::ByteSource(std::string path, Compressed compressed)
     if (file_ < 0) {
         fail(std::strerror(errno));
     }
+    fcntl(file_, F_SETPIPE_SZ, 1 << 20); // of a pipe: so that its writer can go on while what was read is done
 }
 
 ByteSource::~ByteSource()
@@ -29,7 +30,8 @@ ByteSource::~ByteSource()
 bool ByteSource::is_ready() const
 {
     pollfd file{file_, POLLIN, 0};
-    return !unread_.empty() || is_room_short_ || poll(&file, 1, 0) != 0;
+    constexpr int unnoticed_milliseconds = 20;
+    return !unread_.empty() || is_room_short_ || poll(&file, 1, unnoticed_milliseconds) != 0;
 }
 
 void ByteSource::fail(const std::string &why)

@@ -31,7 +31,7 @@ public:
     /// Reads some bytes, at most as many as there is room; 0 at the end of the file.
     std::size_t read(std::span<char> room);
 
-    /// Whether there is something to read, or the end, without waiting for it.
+    /// Whether there is something to read, or the end, without waiting longer than anybody notices.
     [[nodiscard]] bool is_ready() const;
 
     /// Why nothing more could be read; empty when all was.
