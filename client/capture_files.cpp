@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <utility>
 
 namespace l2fib
 {
@@ -45,101 +46,92 @@ std::string Selection::text() const
     return options;
 }
 
+CaptureFiles::CaptureFiles(const std::vector<std::string> &files, const Selection &selection, Take take,
+                           std::function<void()> flush)
+    : files_(files.empty() ? std::vector<std::string>{"-"} : files), selection_(selection), take_(std::move(take)),
+      flush_(std::move(flush))
+{
+}
+
 void CaptureFiles::report(const std::string &what)
 {
-    progress_.clear();
-    status_ = std::max(status_, complain(what));
+    flush_();
+    counts_.status = std::max(counts_.status, complain(what));
 }
 
-void CaptureFiles::report(const std::vector<std::string> &messages)
+void CaptureFiles::read()
 {
-    for (const std::string &message : messages) {
-        report(message);
+    CaptureBlocks blocks(files_);
+    SharedBlocks memory(1);
+    while (!is_output_lost() && blocks.fill(memory[0])) {
+        step_progress(run(memory[0]));
     }
+    clear_progress();
 }
 
-void CaptureFiles::read(const std::vector<std::string> &files)
+void CaptureFiles::read(unsigned jobs, BlockWork &work, const MakeWork &twin)
 {
-    if (files.empty()) {
-        read_file("-");
-    }
-    for (const std::string &path : files) {
-        read_file(path);
-    }
-    progress_.clear();
+    CaptureBlocks blocks(files_);
+    do_blocks([&blocks](Block &block) { return blocks.fill(block); }, jobs, work, twin);
+    clear_progress();
 }
 
-void CaptureFiles::read_file(const std::string &path)
+std::size_t CaptureFiles::run(const Block &block)
 {
-    constexpr std::size_t longest_line = 2 * longest_show_data + (std::size_t{64} << 10U);
-    Input input(path);
-    no_captures_.emplace();
-    for (std::size_t number = 1; std::ferror(stdout) == 0; ++number) {
-        const auto line = input.next_line(longest_line);
-        if (!line) {
-            break;
+    std::size_t lines = 0;
+    for (const Block::Part &part : block.used_parts()) {
+        const std::string_view text = block.text_of(part);
+        if (part.kind == Block::Part::Kind::message) {
+            report(std::string(text));
+            continue;
         }
-        read_line(*line, {path, number});
-        progress_.step();
-        if (no_captures_ && no_captures_->are_enough()) {
-            break;
-        }
+        CapturePlace place{files_[part.file], part.line};
+        for_each_line(text, [&](std::string_view line) {
+            read_line(line, place);
+            ++place.line;
+            ++lines;
+            return !is_output_lost();
+        });
     }
-    if (no_captures_) {
-        report(no_captures_->verdict(path));
-    }
-    if (!input.error().empty()) {
-        report(input.error());
-    }
+    return lines;
 }
 
-void CaptureFiles::read_line(const Input::Line &line, const CapturePlace &place)
+void CaptureFiles::read_line(std::string_view line, const CapturePlace &place)
 {
-    if (line.is_too_long) {
-        refuse(line, place, "line too long");
+    if (is_blank(line)) {
         return;
     }
-    if (line.text.find_first_not_of(" \t\r") == std::string_view::npos) {
-        return;
-    }
-    CaptureLine &parsed = reader_.read(line.text);
+    CaptureLine &parsed = read_capture(reader_, line);
     if (!parsed.error.empty()) {
-        refuse(line, place, parsed.error);
+        report(place.text() + ": " + parsed.error);
         return;
     }
-    note_capture();
+    ++counts_.captures;
     if (selection_.fits(parsed.capture) && take_(parsed.capture, place)) {
-        ++wanted_;
+        ++counts_.wanted;
     }
 }
 
-void CaptureFiles::refuse(const Input::Line &line, const CapturePlace &place, const std::string &why)
+void CaptureFiles::hand_over(Parcel &parcel)
 {
-    const std::string message = place.text() + ": " + why;
-    if (no_captures_) {
-        no_captures_->add(line.text, message);
-    } else {
-        report(message);
-    }
+    parcel.put(std::exchange(counts_, {}));
 }
 
-/// The broken lines before the file's first capture are no more than that.
-void CaptureFiles::note_capture()
+void CaptureFiles::take_over(OpenedParcel &parcel)
 {
-    if (no_captures_) {
-        report(no_captures_->messages());
-        no_captures_.reset();
-    }
-    ++captures_;
+    const auto counts = parcel.taken<Counts>();
+    counts_.captures += counts.captures;
+    counts_.wanted += counts.wanted;
+    counts_.status = std::max(counts_.status, counts.status);
 }
 
 /// An empty screen may be what was asked for, so it is no failure; it may also be a slip in a number.
 void CaptureFiles::report_no_match() const
 {
     const std::string choices = selection_.text();
-    const bool is_explained = captures_ == 0 && status_ == unusable;
-    if (wanted_ == 0 && !choices.empty() && !is_explained && std::ferror(stdout) == 0) {
-        complain("no capture fits " + choices + " (of " + std::to_string(captures_) + ")");
+    const bool is_explained = counts_.captures == 0 && counts_.status == unusable;
+    if (counts_.wanted == 0 && !choices.empty() && !is_explained && !is_output_lost()) {
+        complain("no capture fits " + choices + " (of " + std::to_string(counts_.captures) + ")");
     }
 }
 

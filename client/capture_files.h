@@ -1,11 +1,9 @@
 // Goes through the captures of files, those that are wanted.
 #pragma once
 
-#include "client/broken_lines.h"
-#include "client/capture_reader.h"
+#include "client/capture_blocks.h"
 #include "client/diagnostics.h"
-#include "client/input.h"
-#include "client/progress.h"
+#include "client/parallel/workers.h"
 
 #include <functional>
 #include <optional>
@@ -29,14 +27,6 @@ struct Selection {
     [[nodiscard]] std::string text() const;
 };
 
-/// Where a capture is from.
-struct CapturePlace {
-    const std::string &file;
-    std::size_t line;
-
-    [[nodiscard]] std::string text() const { return file + ":" + std::to_string(line); }
-};
-
 /// A run over files. What is wrong with a line is reported on standard error, and the rest goes on.
 class CaptureFiles
 {
@@ -44,36 +34,44 @@ public:
     /// Is handed a capture, to be changed at will. Returns whether it was wanted after all.
     using Take = std::function<bool(Capture &capture, const CapturePlace &place)>;
 
-    CaptureFiles(const Selection &selection, Take take) : selection_(selection), take_(std::move(take)) {}
+    /// Standard input when there are no files. Text that the caller holds back is flushed before something is reported.
+    CaptureFiles(
+        const std::vector<std::string> &files, const Selection &selection, Take take,
+        std::function<void()> flush = [] {});
 
-    /// Goes through the files, or standard input when there are none, as long as what is printed gets there.
-    void read(const std::vector<std::string> &files);
+    /// Goes through the files, as long as what is printed gets there.
+    void read();
+
+    /// The same with as many processes. `work` has this run, and so has what `twin` makes for each of the others.
+    void read(unsigned jobs, BlockWork &work, const MakeWork &twin);
+
+    /// What the work has to do with them.
+    std::size_t run(const Block &block);
+    void hand_over(Parcel &parcel);
+    void take_over(OpenedParcel &parcel);
 
     /// Says so when there were captures, and none was wanted.
     void report_no_match() const;
 
     /// `unusable` when some of the files could not be read.
-    [[nodiscard]] ExitStatus status() const { return status_; }
-
-    /// For what is written to standard error meanwhile.
-    Progress &progress() { return progress_; }
+    [[nodiscard]] ExitStatus status() const { return counts_.status; }
 
 private:
-    void read_file(const std::string &path);
-    void read_line(const Input::Line &line, const CapturePlace &place);
-    void refuse(const Input::Line &line, const CapturePlace &place, const std::string &why);
-    void note_capture();
+    void read_line(std::string_view line, const CapturePlace &place);
     void report(const std::string &what);
-    void report(const std::vector<std::string> &messages);
 
+    struct Counts {
+        std::size_t captures = 0;
+        std::size_t wanted = 0;
+        ExitStatus status = shown;
+    };
+
+    std::vector<std::string> files_;
     const Selection &selection_;
     Take take_;
-    Progress progress_;
+    std::function<void()> flush_;
     CaptureReader reader_;
-    std::optional<BrokenLines> no_captures_; ///< while the file has none
-    std::size_t captures_ = 0;
-    std::size_t wanted_ = 0;
-    ExitStatus status_ = shown;
+    Counts counts_;
 };
 
 } // namespace l2fib

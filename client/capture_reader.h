@@ -19,6 +19,13 @@ public:
     /// What is on a line. It may be used until the next one is read.
     CaptureLine &read(std::string_view line);
 
+    /// The same of a line that is not to be read.
+    CaptureLine &refuse(const char *why)
+    {
+        result_.error = why;
+        return result_;
+    }
+
 private:
     bool read_by_frame(std::string_view line, std::size_t begin, std::size_t end);
     const Capture *capture_of_frame();

@@ -14,8 +14,7 @@ namespace l2fib
 
 ExitStatus complain(std::string_view what)
 {
-    end_screen_line();
-    std::fprintf(stderr, "l2fib-show: %s\n", harmless_line(what).c_str());
+    write_message("l2fib-show: " + harmless_line(what) + '\n');
     return unusable;
 }
 
@@ -49,14 +48,30 @@ std::string spelled_out(std::string_view text)
     return result + (text.size() > longest ? "...'" : "'");
 }
 
+static int lost_output = 0;
+
+void note_lost_output(int error)
+{
+    lost_output = error;
+}
+
+bool is_output_lost()
+{
+    if (lost_output == 0 && std::ferror(stdout) != 0) {
+        lost_output = errno != 0 ? errno : EIO; // before something else changes it
+    }
+    return lost_output != 0;
+}
+
 bool output_arrived()
 {
-    const int earlier = errno; // of a write that has failed already, if one has
-    errno = 0;
-    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) {
+    if (!is_output_lost() && std::fflush(stdout) != 0) {
+        lost_output = errno;
+    }
+    if (lost_output == 0) {
         return true;
     }
-    complain(std::string("standard output: ") + std::strerror(errno != 0 ? errno : earlier));
+    complain(std::string("standard output: ") + std::strerror(lost_output));
     return false;
 }
 

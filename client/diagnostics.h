@@ -26,6 +26,12 @@ ExitStatus report_status(std::uint32_t status, std::string_view place = {});
 /// Text from a file, fit for a terminal: short, and with what is not plain text spelled out.
 std::string spelled_out(std::string_view text);
 
+/// Some of what another process of this run wrote to standard output did not get there.
+void note_lost_output(int error);
+
+/// Whether text is known not to get there, so that there is no use in more of it.
+bool is_output_lost();
+
 /// Whether everything written to standard output so far got there; says so when it did not.
 bool output_arrived();
 

@@ -17,6 +17,7 @@ void FileCommands::add_replay(CLI::App &command)
                      "Print a line in front of each object that says which it is; with --json, give its file and line");
     command.add_option("FILE", replay_.files, "Captures, one a line; - for standard input (the default)")
         ->type_name("");
+    add_jobs(command, jobs_);
     add_rendering(command, rendering_);
     command.get_option("--count")->excludes(command.get_option("--bytes"));
     add_example(command, "l2fib-show replay --object ac --status failed router.jsonl");
@@ -27,6 +28,7 @@ void FileCommands::add_check(CLI::App &command)
     add_selection(command, check_.selection);
     command.add_flag("--all", check_.all, "Report also what most often rightly differs from NP to NP");
     command.add_flag("--json", check_.json, "Print JSON, an object on each line, in place of text");
+    add_jobs(command, jobs_);
     command.add_flag("--list-rules", check_.list_rules, "Print what is checked, and why");
     command
         .add_option("FILE", check_.files,
@@ -65,10 +67,13 @@ FileCommands::FileCommands(CLI::App &app, RenderingOptions &rendering) : renderi
     };
     add("replay", "Show the captures of files", &FileCommands::add_replay, [this] {
         replay_.rendering = rendering_of(rendering_);
+        replay_.jobs = jobs_of(jobs_);
         return replay(replay_);
     });
-    add("check", "Find where NPs disagree, with each other or with the RP", &FileCommands::add_check,
-        [this] { return check(check_); });
+    add("check", "Find where NPs disagree, with each other or with the RP", &FileCommands::add_check, [this] {
+        check_.jobs = jobs_of(jobs_);
+        return check(check_);
+    });
     add("diff", "Print what has changed between two files of captures", &FileCommands::add_diff,
         [this] { return diff(diff_); });
     add("page", "Write captures, and what check finds in them, as a page of HTML", &FileCommands::add_page,

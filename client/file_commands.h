@@ -31,6 +31,7 @@ private:
     void add_page(CLI::App &command);
 
     RenderingOptions &rendering_;
+    unsigned jobs_ = 0; ///< as many as there are processors
     ReplayOptions replay_;
     CheckOptions check_;
     DiffOptions diff_;

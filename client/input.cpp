@@ -1,35 +1,10 @@
 #include "client/input.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
-#include <unistd.h>
+#include <span>
 
 namespace l2fib
 {
-
-Input::Input(const std::string &path)
-    : path_(path), file_(path == "-" ? STDIN_FILENO : open(path.c_str(), O_RDONLY | O_CLOEXEC)),
-      buffer_(std::size_t{1} << 16U)
-{
-    if (file_ < 0) {
-        fail();
-    }
-}
-
-Input::~Input()
-{
-    if (file_ >= 0 && file_ != STDIN_FILENO) {
-        close(file_);
-    }
-}
-
-void Input::fail()
-{
-    error_ = (path_.empty() ? "''" : path_) + ": " + std::strerror(errno);
-    is_at_end_ = true;
-}
 
 bool Input::read_on()
 {
@@ -40,16 +15,9 @@ bool Input::read_on()
     if (unread_.size() == buffer_.size()) {
         buffer_.resize(2 * buffer_.size());
     }
-    ssize_t count = 0;
-    do {
-        count = read(file_, buffer_.data() + unread_.size(), buffer_.size() - unread_.size());
-    } while (count < 0 && errno == EINTR);
-    if (count < 0) {
-        fail();
-        count = 0;
-    }
+    const std::size_t count = source_.read(std::span(buffer_).subspan(unread_.size()));
     is_at_end_ = count == 0;
-    unread_ = {buffer_.data(), unread_.size() + static_cast<std::size_t>(count)};
+    unread_ = {buffer_.data(), unread_.size() + count};
     return count != 0;
 }
 
@@ -84,7 +52,7 @@ std::optional<Input::Line> Input::next_line(std::size_t longest)
     }
     const bool is_ended = end != std::string_view::npos;
     std::string_view text = take(end);
-    if (!is_ended && text.empty() && !is_too_long) {
+    if (!is_ended && ((text.empty() && !is_too_long) || !error().empty())) {
         return std::nullopt;
     }
     take(is_ended ? 1 : 0);

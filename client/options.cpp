@@ -27,6 +27,22 @@ Rendering rendering_of(const RenderingOptions &options)
     return rendering;
 }
 
+void add_jobs(CLI::App &command, unsigned &jobs)
+{
+    constexpr unsigned most = 256;
+    command.add_option("--jobs", jobs, "How many processes share the work (default: as many as there are processors)")
+        ->type_name("N")
+        ->transform(number_up_to(most));
+}
+
+unsigned jobs_of(unsigned jobs)
+{
+    if (isatty(STDOUT_FILENO) != 0) {
+        return 1;
+    }
+    return jobs == 0 ? usual_jobs() : jobs;
+}
+
 void add_example(CLI::App &app, const std::string &example)
 {
     app.footer("Example:\n  " + example);

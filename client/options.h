@@ -60,6 +60,12 @@ Rendering rendering_of(const RenderingOptions &options);
 /// The options that choose captures of files.
 void add_selection(CLI::App &command, Selection &selection);
 
+/// The option that says how many processes share the work.
+void add_jobs(CLI::App &command, unsigned &jobs);
+
+/// How many that are: where a person looks on, one, as a terminal is slower than any of them.
+unsigned jobs_of(unsigned jobs);
+
 void add_example(CLI::App &app, const std::string &example);
 
 } // namespace l2fib

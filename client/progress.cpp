@@ -8,24 +8,31 @@ namespace l2fib
 
 using namespace std::chrono_literals;
 
-Progress::Progress() : wanted_(isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0), next_(Clock::now() + 2s) {}
-
-void Progress::step()
+ProgressState &progress_state()
 {
-    constexpr std::size_t lines_between_looks = 256;
-    if (!wanted_ || ++done_ % lines_between_looks != 0 || Clock::now() < next_) {
-        return;
-    }
-    std::fprintf(stderr, "\rl2fib-show: %zu lines", done_);
-    is_on_screen_ = true;
-    next_ = Clock::now() + 500ms;
+    static ProgressState state;
+    return state;
 }
 
-void Progress::clear()
+void step_progress(std::size_t lines)
 {
-    if (is_on_screen_) {
+    static const bool is_wanted = isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0;
+    ProgressState &state = progress_state();
+    state.lines += lines;
+    const auto now = std::chrono::steady_clock::now();
+    if (!is_wanted || now < state.next) {
+        return;
+    }
+    std::fprintf(stderr, "\rl2fib-show: %zu lines", state.lines);
+    state.is_on_screen = true;
+    state.next = now + 500ms;
+}
+
+void clear_progress()
+{
+    if (progress_state().is_on_screen) {
         std::fprintf(stderr, "\r%40s\r", "");
-        is_on_screen_ = false;
+        progress_state().is_on_screen = false;
     }
 }
 

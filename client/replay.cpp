@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <map>
 #include <tuple>
+#include <utility>
 
 namespace l2fib
 {
@@ -31,6 +32,29 @@ public:
             total += count;
         }
         std::printf("%-12s %-13s %10zu\n", "all", "", total);
+    }
+
+    void hand_over(Parcel &parcel)
+    {
+        parcel.put(counts_.size());
+        for (const auto &[row, count] : counts_) {
+            const auto &[object, view, status] = row;
+            parcel.put(object);
+            parcel.put(view);
+            parcel.put(status);
+            parcel.put(count);
+        }
+        counts_.clear();
+    }
+
+    void take_over(OpenedParcel &parcel)
+    {
+        for (auto rows = parcel.taken<std::size_t>(); rows != 0; --rows) {
+            const auto object = parcel.taken<std::string>();
+            const auto view = parcel.taken<std::string>();
+            const auto status = parcel.taken<std::uint32_t>();
+            counts_[{object, view, status}] += parcel.taken<std::size_t>();
+        }
     }
 
     /// The same as a line of JSON.
@@ -61,24 +85,33 @@ private:
 };
 
 /// Shows captures, one after the other.
-class Replay
+class Replay : public BlockWork
 {
 public:
     explicit Replay(const ReplayOptions &options)
-        : options_(options),
-          files_(options.selection,
-                 [this](Capture &capture, const CapturePlace &place) { return show(capture, place); }),
+        : options_(options), files_(
+                                 options.files, options.selection,
+                                 [this](Capture &capture, const CapturePlace &place) { return show(capture, place); },
+                                 [this] { flush(); }),
           renderer_(options.rendering)
     {
     }
 
     ExitStatus run();
 
+    std::size_t run(const Block &block) override { return files_.run(block); }
+    void flush() override { renderer_.flush(); }
+    void hand_over(Parcel &parcel) override;
+    void take_over(OpenedParcel &parcel) override;
+    [[nodiscard]] const char *separator() const override { return has_headings() ? "\n" : ""; }
+    [[nodiscard]] bool has_text() const override { return !is_first_; }
+
 private:
     bool show(Capture &capture, const CapturePlace &place);
     std::uint32_t status_of(const Capture &capture);
     void print_heading(const Capture &capture, const CapturePlace &place);
 
+    [[nodiscard]] bool has_headings() const { return options_.heading && !options_.rendering.json; }
     void note(ExitStatus status) { exit_status_ = std::max(exit_status_, status); }
 
     const ReplayOptions &options_;
@@ -116,7 +149,6 @@ bool Replay::show(Capture &capture, const CapturePlace &place)
     if (status != 0 && options_.rendering.json) {
         note(view_failed); // the line says how
     } else if (status != 0) {
-        files_.progress().clear();
         note(report_status(status, place.text() + ": "));
     }
     return true;
@@ -124,7 +156,7 @@ bool Replay::show(Capture &capture, const CapturePlace &place)
 
 void Replay::print_heading(const Capture &capture, const CapturePlace &place)
 {
-    if (!options_.heading || options_.rendering.json) {
+    if (!has_headings()) {
         return;
     }
     const View *view = capture.shown_view();
@@ -133,9 +165,24 @@ void Replay::print_heading(const Capture &capture, const CapturePlace &place)
     is_first_ = false;
 }
 
+void Replay::hand_over(Parcel &parcel)
+{
+    files_.hand_over(parcel);
+    tally_.hand_over(parcel);
+    parcel.put(std::exchange(exit_status_, shown));
+    is_first_ = true; // of the next block
+}
+
+void Replay::take_over(OpenedParcel &parcel)
+{
+    files_.take_over(parcel);
+    tally_.take_over(parcel);
+    note(parcel.taken<ExitStatus>());
+}
+
 ExitStatus Replay::run()
 {
-    files_.read(options_.files);
+    files_.read(options_.jobs, *this, [this] { return std::make_unique<Replay>(options_); });
     note(files_.status());
     if (options_.count) {
         options_.rendering.json ? tally_.write(renderer_.json()) : tally_.print();

@@ -16,6 +16,7 @@ struct ReplayOptions {
     bool count = false; ///< a table of what there is, in place of the text
     Rendering rendering;
     bool heading = false; ///< a line in front of each object
+    unsigned jobs = 1;
 };
 
 ExitStatus replay(const ReplayOptions &options);

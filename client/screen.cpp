@@ -1,6 +1,7 @@
 #include "client/screen.h"
 
 #include "client/harmless_text.h"
+#include "client/progress.h"
 
 #include <array>
 #include <cerrno>
@@ -20,6 +21,7 @@ static bool has_messages = false; // among its text
 static bool is_in_line = false;
 static bool is_made_harmless = false;
 static HarmlessText harmless_text;
+static MessageHolder *message_holder = nullptr;
 
 /// Whether messages appear among the text.
 static bool have_same_place()
@@ -103,7 +105,7 @@ UnchangedText::~UnchangedText()
     change_rule(was_changed_);
 }
 
-void end_screen_line()
+static void end_screen_line()
 {
     if (screen_stream != nullptr && has_messages) {
         std::fflush(screen_stream);
@@ -111,6 +113,31 @@ void end_screen_line()
             std::fputc('\n', stderr);
         }
     }
+}
+
+void write_message(std::string_view message)
+{
+    if (message_holder != nullptr) {
+        return message_holder->hold(message);
+    }
+    clear_progress();
+    end_screen_line();
+    std::fwrite(message.data(), 1, message.size(), stderr);
+}
+
+void hold_messages(MessageHolder *holder)
+{
+    message_holder = holder;
+}
+
+bool is_in_screen_line()
+{
+    return is_in_line;
+}
+
+void set_in_screen_line(bool is_in)
+{
+    is_in_line = is_in;
 }
 
 } // namespace l2fib

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdio>
+#include <string_view>
 
 namespace l2fib
 {
@@ -34,7 +35,24 @@ private:
     bool was_changed_;
 };
 
-/// Ends the line that text on the screen is in, before a message comes after it.
-void end_screen_line();
+/// Writes a message to standard error, on a line of its own.
+void write_message(std::string_view message);
+
+/// Who gets messages in place of standard error, while there is one.
+class MessageHolder
+{
+public:
+    MessageHolder() = default;
+    virtual ~MessageHolder() = default;
+    MessageHolder(const MessageHolder &) = delete;
+    MessageHolder &operator=(const MessageHolder &) = delete;
+
+    virtual void hold(std::string_view message) = 0;
+};
+void hold_messages(MessageHolder *holder);
+
+/// Whether text on the screen has not ended its line, so that a message has to.
+bool is_in_screen_line();
+void set_in_screen_line(bool is_in);
 
 } // namespace l2fib

@@ -27,7 +27,8 @@ static HexBytes bytes_of(std::string_view text, const ChosenFormat &format)
 ShowDataFile read_show_data(const std::string &path, const ChosenFormat &format)
 {
     constexpr std::size_t longest_dump = 8 * longest_show_data; // with its offsets and characters
-    Input input(path);
+    const bool are_plain_bytes = format.is_told && !format.hex;
+    Input input(path, are_plain_bytes ? Compressed::never : format.hex ? Compressed::by_magic : Compressed::by_header);
     const std::string_view text = input.read_all(longest_dump);
     if (!input.error().empty()) {
         return {{}, input.error()};

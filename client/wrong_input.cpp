@@ -9,56 +9,8 @@
 namespace l2fib
 {
 
-using namespace std::string_view_literals;
-
 constexpr std::string_view blanks = " \t\r\n";
 constexpr std::string_view to_replay = " | l2fib-show replay -";
-
-/// What its bytes begin with, and the command that writes what was compressed.
-struct Compression {
-    const char *name;
-    std::string_view magic;
-    const char *command;
-};
-static constexpr Compression compressions[] = {
-    {"gzip", "\x1f\x8b\x08"sv, "zcat"},
-    {"xz",
-     "\xfd"
-     "7zXZ\0"sv,
-     "xzcat"},
-    {"zstd", "\x28\xb5\x2f\xfd"sv, "zstdcat"},
-};
-
-/// Whether the rest of a gzip header is one: its magic is too short to tell it from the number of a bridge.
-static bool is_gzip_header(std::string_view content)
-{
-    constexpr std::size_t shortest_file = 18;
-    constexpr unsigned char unused_flags = 0xe0;
-    constexpr std::size_t at_flags = 3;
-    constexpr std::size_t at_effort = 8;
-    constexpr std::size_t at_system = 9;
-    constexpr unsigned char last_system = 13;
-    const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(content[at]); };
-    return content.size() >= shortest_file && (byte(at_flags) & unused_flags) == 0 &&
-           (byte(at_effort) == 0 || byte(at_effort) == 2 || byte(at_effort) == 4) &&
-           (byte(at_system) <= last_system || byte(at_system) == 0xff);
-}
-
-/// Null when it is not compressed.
-static const Compression *compression_of(std::string_view content)
-{
-    for (const Compression &compression : compressions) {
-        if (content.starts_with(compression.magic) && (&compression != compressions || is_gzip_header(content))) {
-            return &compression;
-        }
-    }
-    return nullptr;
-}
-
-static std::string to_decompress(const Compression &compression, std::string_view then)
-{
-    return std::string(compression.name) + ": " + compression.command + " FILE" + std::string(then);
-}
 
 static bool is_text(std::string_view content)
 {
@@ -88,9 +40,6 @@ static std::string to_make_lines(bool is_array)
 /// What it is by itself, whatever was wanted.
 static std::string certain_form(std::string_view content)
 {
-    if (const Compression *compression = compression_of(content)) {
-        return to_decompress(*compression, " | l2fib-show ... -");
-    }
     const std::string_view text = trimmed(content);
     if (!text.starts_with('{') && !text.starts_with('[')) {
         return {};
@@ -122,11 +71,6 @@ std::string other_than_hex_dump(std::string_view content)
 
 std::string other_than_captures(std::string_view line)
 {
-    for (const Compression &compression : compressions) { // a line may end before its header does
-        if (line.starts_with(compression.magic)) {
-            return to_decompress(compression, to_replay);
-        }
-    }
     const std::string_view text = trimmed(line);
     if (has_control_characters(text)) {
         return "bytes, not captures: use l2fib-show OBJECT FILE for show data";

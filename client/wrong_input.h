@@ -1,7 +1,7 @@
 // Files that people take for show data or captures.
 //
-// Show data is binary and may begin with anything, so what is said of a file here is certain: a compressed file by its
-// whole header, text only where all of it is text.
+// Show data is binary and may begin with anything, so what is said of a file here is certain: text only where all of it
+// is text.
 #pragma once
 
 #include <string>

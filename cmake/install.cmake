@@ -62,8 +62,8 @@ if(L2FIB_CLIENT)
     l2fib_install_matching(completions/bash/* ${CMAKE_INSTALL_DATADIR}/bash-completion/completions tool)
     l2fib_install_matching(completions/zsh/* ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions tool)
     l2fib_install_matching(completions/fish/* ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d tool)
-    l2fib_install_matching("README.md;docs/capture-format.md;docs/checks.md;docs/json-format.md;docs/querying.md"
+    l2fib_install_matching("README.md;docs/capture-format.md;docs/checks.md;docs/fleet.md;docs/json-format.md;docs/querying.md"
                            ${CMAKE_INSTALL_DOCDIR} tool)
-    l2fib_install_matching(examples/*.jsonl ${CMAKE_INSTALL_DOCDIR}/examples tool)
+    l2fib_install_matching("examples/*.jsonl;examples/task.sh" ${CMAKE_INSTALL_DOCDIR}/examples tool)
     l2fib_install_matching(examples/faults/*.jsonl ${CMAKE_INSTALL_DOCDIR}/examples/faults tool)
 endif()

@@ -34,13 +34,18 @@ static std::optional<std::uint64_t> of_rp(const CheckedView &view, std::string_v
     return held ? std::optional(held->number) : std::nullopt;
 }
 
+std::uint32_t AcrossObjects::number_of(const std::string &file)
+{
+    if (files_.empty() || files_.back() != file) {
+        files_.push_back(file);
+    }
+    return static_cast<std::uint32_t>(files_.size() - 1);
+}
+
 void AcrossObjects::add(const Capture &capture, std::optional<std::uint32_t> xid, const CheckedView &view,
                         const CapturePlace &place)
 {
-    if (files_.empty() || files_.back() != place.file) {
-        files_.push_back(place.file);
-    }
-    const Source source{static_cast<std::uint32_t>(files_.size() - 1), static_cast<std::uint32_t>(place.line)};
+    const Source source{number_of(place.file), static_cast<std::uint32_t>(place.line)};
     const std::string_view object = capture.object->name;
     if ((object == "ac" || object == "pw") && xid) {
         add_port(capture, *xid, view, source);
@@ -103,6 +108,45 @@ void AcrossObjects::remember(const Reference &reference)
         std::stable_sort(references_.begin(), references_.end());
         references_.erase(std::unique(references_.begin(), references_.end()), references_.end());
         sorted_ = references_.size();
+    }
+}
+
+void AcrossObjects::hand_over(Parcel &parcel)
+{
+    parcel.put(files_);
+    parcel.put(ports_);
+    parcel.put(bridges_);
+    parcel.put(references_);
+    parcel.put(bvis_.size());
+    for (const auto &[node, xid] : bvis_) {
+        parcel.put(node);
+        parcel.put(xid);
+    }
+    *this = {};
+}
+
+void AcrossObjects::take_over(OpenedParcel &parcel)
+{
+    std::vector<std::uint32_t> numbers; // of the files, here
+    for (const std::string &file : parcel.taken<std::vector<std::string>>()) {
+        numbers.push_back(number_of(file));
+    }
+    for (Port &port : parcel.taken<std::vector<Port>>()) {
+        port.source.file = numbers[port.source.file];
+        nodes_with_ports_.insert(port.node);
+        ports_.push_back(port);
+    }
+    for (Bridge &bridge : parcel.taken<std::vector<Bridge>>()) {
+        bridge.source.file = numbers[bridge.source.file];
+        bridges_.push_back(bridge);
+    }
+    for (Reference &reference : parcel.taken<std::vector<Reference>>()) {
+        reference.source.file = numbers[reference.source.file];
+        remember(reference);
+    }
+    for (auto bvis = parcel.taken<std::size_t>(); bvis != 0; --bvis) {
+        const auto node = parcel.taken<std::uint32_t>();
+        bvis_.emplace(node, parcel.taken<std::uint32_t>());
     }
 }
 

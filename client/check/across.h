@@ -19,6 +19,10 @@ public:
     void add(const Capture &capture, std::optional<std::uint32_t> xid, const CheckedView &view,
              const CapturePlace &place);
 
+    /// What was added since the last time, for the process that has all of it.
+    void hand_over(Parcel &parcel);
+    void take_over(OpenedParcel &parcel);
+
     /// What does not go together.
     [[nodiscard]] std::vector<Finding> findings();
 
@@ -57,6 +61,7 @@ private:
     [[nodiscard]] const Port *port(std::uint32_t node, std::uint32_t xid) const;
     void check_reference(const Reference &reference, std::vector<Finding> &findings) const;
     void check_bridge_of(const Port &port, std::vector<Finding> &findings) const;
+    std::uint32_t number_of(const std::string &file);
     [[nodiscard]] std::string text_of(const Source &source) const;
 
     std::vector<std::string> files_;

@@ -73,23 +73,32 @@ void Repeated::report(CheckReport &report)
     }
 }
 
-class Check
+class Check : public BlockWork
 {
 public:
-    explicit Check(const CheckOptions &options)
-        : options_(options),
-          files_(options.selection,
-                 [this](Capture &capture, const CapturePlace &place) { return take(capture, place); }),
+    /// Of several processes, one compares what several captures of an object have in common.
+    explicit Check(const CheckOptions &options, bool compares = true)
+        : options_(options), compares_(compares),
+          files_(
+              options.files, options.selection,
+              [this](Capture &capture, const CapturePlace &place) { return take(capture, place); },
+              [this] { flush(); }),
           report_(options.json)
     {
     }
 
     ExitStatus run();
 
+    std::size_t run(const Block &block) override { return files_.run(block); }
+    void flush() override { report_.flush(); }
+    void hand_over(Parcel &parcel) override;
+    void take_over(OpenedParcel &parcel) override;
+
 private:
     bool take(Capture &capture, const CapturePlace &place);
 
     const CheckOptions &options_;
+    bool compares_;
     CaptureFiles files_;
     CheckReport report_;
     recording::Tree tree_;
@@ -98,6 +107,7 @@ private:
     ObjectCheck object_check_;
     AcrossObjects across_;
     Repeated repeated_;
+    Parcel repeated_elsewhere_; ///< for the process that compares
 };
 
 bool Check::take(Capture &capture, const CapturePlace &place)
@@ -120,17 +130,43 @@ bool Check::take(Capture &capture, const CapturePlace &place)
     if (!options_.all) {
         std::erase_if(object.findings, [](const Finding &finding) { return finding.level == Level::may_differ; });
     }
-    if (options_.files.size() > 1) {
+    if (options_.files.size() <= 1) {
+        report_.object(object, received_);
+    } else if (compares_) {
         repeated_.add(object, received_);
     } else {
-        report_.object(object, received_);
+        object.hand_over(repeated_elsewhere_);
+        repeated_elsewhere_.put(object.findings.empty() ? std::vector<std::uint8_t>() : received_);
     }
     return true;
 }
 
+void Check::hand_over(Parcel &parcel)
+{
+    files_.hand_over(parcel);
+    report_.hand_over(parcel);
+    across_.hand_over(parcel);
+    parcel.put(repeated_elsewhere_.bytes());
+    repeated_elsewhere_.clear();
+}
+
+void Check::take_over(OpenedParcel &parcel)
+{
+    files_.take_over(parcel);
+    report_.take_over(parcel);
+    across_.take_over(parcel);
+    const auto repeated = parcel.taken<std::string>();
+    for (OpenedParcel objects(repeated); !objects.is_empty();) {
+        CheckedObject object;
+        object.take_over(objects);
+        objects.take(received_);
+        repeated_.add(object, received_);
+    }
+}
+
 ExitStatus Check::run()
 {
-    files_.read(options_.files);
+    files_.read(options_.jobs, *this, [this] { return std::make_unique<Check>(options_, false); });
     repeated_.report(report_);
     report_.across(across_.findings());
     report_.end();

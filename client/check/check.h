@@ -12,6 +12,7 @@ struct CheckOptions {
     bool json = false;
     bool all = false; ///< also what most often rightly differs
     bool list_rules = false;
+    unsigned jobs = 1;
 };
 
 /// Exit status as of diff: 0 all agree, 1 some do not, 2 some could not be checked.

@@ -18,6 +18,9 @@ struct CheckedObject {
 
     [[nodiscard]] std::string place() const { return file + ":" + std::to_string(line); }
     [[nodiscard]] bool disagrees() const;
+
+    void hand_over(Parcel &parcel) const;
+    void take_over(OpenedParcel &parcel);
 };
 
 /// The name of an object by what its view says: "ac 0x00340003 egress", "bridge 12 ingress". `xid` is that of its show

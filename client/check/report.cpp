@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <utility>
 
 namespace l2fib
 {
@@ -141,16 +142,38 @@ void CheckReport::write_object(const CheckedObject &object, std::span<const std:
     writer_.close_line();
 }
 
-void CheckReport::object(const CheckedObject &object, std::span<const std::uint8_t> received)
+void CheckReport::name_unchecked(const std::string &object)
 {
     constexpr std::size_t most_named = 5;
-    ++objects_;
-    disagreeing_ += object.disagrees() ? 1 : 0;
+    if (first_unchecked_.size() < most_named) {
+        first_unchecked_.push_back(object);
+    }
+}
+
+void CheckReport::hand_over(Parcel &parcel)
+{
+    parcel.put(std::exchange(counts_, {}));
+    parcel.put(std::exchange(first_unchecked_, {}));
+}
+
+void CheckReport::take_over(OpenedParcel &parcel)
+{
+    const auto counts = parcel.taken<Counts>();
+    counts_.objects += counts.objects;
+    counts_.disagreeing += counts.disagreeing;
+    counts_.unchecked += counts.unchecked;
+    for (const std::string &object : parcel.taken<std::vector<std::string>>()) {
+        name_unchecked(object);
+    }
+}
+
+void CheckReport::object(const CheckedObject &object, std::span<const std::uint8_t> received)
+{
+    ++counts_.objects;
+    counts_.disagreeing += object.disagrees() ? 1 : 0;
     if (!object.unchecked.empty()) {
-        ++unchecked_;
-        if (first_unchecked_.size() < most_named) {
-            first_unchecked_.push_back(object.place() + " (" + object.unchecked + ")");
-        }
+        ++counts_.unchecked;
+        name_unchecked(object.place() + " (" + object.unchecked + ")");
     }
     if (json_) {
         write_object(object, received);
@@ -162,7 +185,7 @@ void CheckReport::object(const CheckedObject &object, std::span<const std::uint8
 
 void CheckReport::across(const std::vector<Finding> &findings)
 {
-    across_ += findings.size();
+    counts_.across += findings.size();
     if (json_ && !findings.empty()) {
         writer_.open_line();
         writer_.member("format", std::uint64_t{1});
@@ -179,27 +202,28 @@ void CheckReport::end()
     if (json_) {
         writer_.open_line();
         writer_.member("format", std::uint64_t{1});
-        writer_.member("objects", std::uint64_t{objects_});
-        writer_.member("disagreeing", std::uint64_t{disagreeing_});
-        writer_.member("across", std::uint64_t{across_});
-        writer_.member("not_checked", std::uint64_t{unchecked_});
+        writer_.member("objects", std::uint64_t{counts_.objects});
+        writer_.member("disagreeing", std::uint64_t{counts_.disagreeing});
+        writer_.member("across", std::uint64_t{counts_.across});
+        writer_.member("not_checked", std::uint64_t{counts_.unchecked});
         writer_.close_line();
         return writer_.flush();
     }
     std::string line;
-    if (disagreeing_ == 0) {
-        line = counted(objects_ - unchecked_, "object agrees.", "objects agree.");
+    if (counts_.disagreeing == 0) {
+        line = counted(counts_.objects - counts_.unchecked, "object agrees.", "objects agree.");
     } else {
-        line = std::to_string(disagreeing_) + " of " + counted(objects_, "object", "objects") +
-               (disagreeing_ == 1 ? " disagrees." : " disagree.");
+        line = std::to_string(counts_.disagreeing) + " of " + counted(counts_.objects, "object", "objects") +
+               (counts_.disagreeing == 1 ? " disagrees." : " disagree.");
     }
-    line += across_ == 0 ? "" : ' ' + counted(across_, "disagreement", "disagreements") + " across objects.";
-    if (unchecked_ != 0) {
+    line +=
+        counts_.across == 0 ? "" : ' ' + counted(counts_.across, "disagreement", "disagreements") + " across objects.";
+    if (counts_.unchecked != 0) {
         std::vector<std::string> names = first_unchecked_;
-        if (unchecked_ > names.size()) {
-            names.push_back(std::to_string(unchecked_ - names.size()) + " more");
+        if (counts_.unchecked > names.size()) {
+            names.push_back(std::to_string(counts_.unchecked - names.size()) + " more");
         }
-        line += ' ' + std::to_string(unchecked_) + " could not be checked: " + names_in_a_row(names);
+        line += ' ' + std::to_string(counts_.unchecked) + " could not be checked: " + names_in_a_row(names);
         line += '.';
     }
     std::printf("%s\n", line.c_str());
@@ -207,10 +231,10 @@ void CheckReport::end()
 
 ExitStatus CheckReport::status() const
 {
-    if (unchecked_ != 0) {
+    if (counts_.unchecked != 0) {
         return unusable;
     }
-    return disagreeing_ + across_ == 0 ? shown : view_failed;
+    return counts_.disagreeing + counts_.across == 0 ? shown : view_failed;
 }
 
 } // namespace l2fib

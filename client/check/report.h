@@ -2,6 +2,7 @@
 #pragma once
 
 #include "client/check/checked_object.h"
+#include "client/parallel/parcel.h"
 #include "recording/json_writer.h"
 
 namespace l2fib
@@ -23,16 +24,29 @@ public:
 
     [[nodiscard]] ExitStatus status() const;
 
+    /// Hands what was printed to standard output.
+    void flush() { writer_.flush(); }
+
+    /// What is counted for the end.
+    void hand_over(Parcel &parcel);
+    void take_over(OpenedParcel &parcel);
+
 private:
     void write_object(const CheckedObject &object, std::span<const std::uint8_t> received);
     void write_findings(const std::vector<Finding> &findings, std::span<const std::uint8_t> received);
 
+    void name_unchecked(const std::string &object);
+
+    struct Counts {
+        std::size_t objects = 0;
+        std::size_t disagreeing = 0;
+        std::size_t across = 0;
+        std::size_t unchecked = 0;
+    };
+
     bool json_;
     recording::JsonWriter writer_{stdout};
-    std::size_t objects_ = 0;
-    std::size_t disagreeing_ = 0;
-    std::size_t across_ = 0;
-    std::size_t unchecked_ = 0;
+    Counts counts_;
     std::vector<std::string> first_unchecked_; ///< named at the end
 };
 

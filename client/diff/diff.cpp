@@ -109,12 +109,12 @@ void Diff::report_removed()
 
 ExitStatus Diff::run()
 {
-    CaptureFiles before(options_.selection,
+    CaptureFiles before({options_.before}, options_.selection,
                         [this](Capture &capture, const CapturePlace &place) { return keep(capture, place); });
-    before.read({options_.before});
-    CaptureFiles after(options_.selection,
+    before.read();
+    CaptureFiles after({options_.after}, options_.selection,
                        [this](Capture &capture, const CapturePlace &place) { return compare(capture, place); });
-    after.read({options_.after});
+    after.read();
     report_removed();
     report_.end();
     after.report_no_match();

@@ -85,9 +85,9 @@ class Page
 {
 public:
     explicit Page(const PageOptions &options)
-        : options_(options), files_(options.selection, [this](Capture &capture, const CapturePlace &place) {
-              return take(capture, place);
-          })
+        : options_(options),
+          files_(options.files, options.selection,
+                 [this](Capture &capture, const CapturePlace &place) { return take(capture, place); })
     {
     }
 
@@ -239,7 +239,7 @@ void Page::write()
 
 ExitStatus Page::run()
 {
-    files_.read(options_.files);
+    files_.read();
     across_findings_ = across_.findings();
     write();
     files_.report_no_match();

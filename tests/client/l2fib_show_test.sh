@@ -261,6 +261,30 @@ for form in '' --json --bytes; do
     fi
 done
 
+# What is compressed is read as it was before, whole or in parts; bytes that may be show data are left alone.
+"$show" replay many many "$ac" >whole.txt
+for format in gzip:gz xz:xz zstd:zst; do
+    for file in many "$ac" "$capture" vpls-ac-ingress.hex; do
+        "${format%:*}" -c "$file" >"${file##*/}.${format#*:}"
+    done
+    cat many."${format#*:}" many."${format#*:}" "${ac##*/}.${format#*:}" >parts
+    cp parts padded
+    head -c 512 /dev/zero >>padded
+    expect 0 whole.txt '' -- replay parts
+    expect 0 whole.txt '' -- replay padded
+    "$show" replay <parts | cmp - whole.txt || failures=$((failures + 1))
+    expect 0 "$screen" '' -- ac "$capture.${format#*:}"
+    expect 0 "$screen" '' -- ac --hex "vpls-ac-ingress.hex.${format#*:}"
+    head -c -9 many."${format#*:}" >cut
+    "$show" replay cut >cut.txt 2>stderr
+    if [ $? -ne 2 ] || ! grep -q ' ends early, after [0-9]* bytes$' stderr ||
+        ! head -c "$(wc -c <cut.txt)" whole.txt | cmp - cut.txt || [ ! -s cut.txt ]; then
+        echo "replay of ${format%:*} that is cut short: $(wc -c <cut.txt) bytes, on stderr: $(cat stderr)"
+        failures=$((failures + 1))
+    fi
+done
+printf '\037\213\010' | "$show" ac --format raw - 2>/dev/null | grep -q 'data_size is 3,' || failures=$((failures + 1))
+
 # Help is the same by the command as by the option.
 for command in '' ac help; do
     "$show" $command --help >help.txt

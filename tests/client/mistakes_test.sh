@@ -13,8 +13,11 @@ perl -ne 'chomp; printf "%08x: %s\n", $. - 1, $_' >dump.xxd <<END_OF_BYTES
 04
 END_OF_BYTES
 od -A x ac.bin >dump.od
-gzip -c captures >ac.gz
-printf '\3757zXZ\0more' >ac.xz
+for format in gzip:gz xz:xz zstd:zst; do
+    "${format%:*}" -c captures | head -c 300 >"short.${format#*:}"
+done
+gzip -c captures | perl -0777 -pe 'substr($_, 3, 1) = "\xff"' >broken.gz
+perl -e 'print "\x28\xb5\x2f\xfd\x00\x98\x00\x00\x00"' >wide.zst
 jq . captures >pretty
 jq -s . captures >array
 head -c 4194305 /dev/zero >big

@@ -1,0 +1,135 @@
+#!/bin/sh
+# jobs_test.sh L2FIB_SHOW SOURCE_DIR: what several processes print is what one prints, on both streams and where both are
+# one, and ends as it ends.
+show=$1
+source=$2
+work=$(mktemp -d) && cd "$work" || exit 2
+trap 'rm -rf "$work"' EXIT
+failures=0
+
+fail() {
+    echo "$*"
+    failures=$((failures + 1))
+}
+
+# Files of several blocks of the input: sound ones, such with broken lines at the beginning, in the middle and at the
+# end, lines longer than a block and than any capture, a late first capture, none at all, no end of the last line.
+cat "$source"/examples/*.jsonl >all
+for _ in 1 2 3 4 5 6 7 8; do cat all "$source/examples/faults/planted.jsonl"; done >sound
+perl -e 'print "{\"object\":\"ac\",\"remark\":\"", "x" x 3000000, "\",\"show_data\":\"00\"}\n"' >long
+perl -e 'print "x" x 9000000, "\n"' >too_long
+printf 'nonsense\n{"object":"ac"}\n\n \n' >broken
+cat broken sound broken too_long all long broken all sound broken >mixed
+printf '{"object":"ac","show_data":"0003"}' >>mixed
+perl -e 'print "\n" x 900000, "nonsense\n" x 9, "\n" x 900000' | cat - sound >late
+perl -e 'print "nonsense\n" x 20' | cat - sound >none
+cat too_long too_long sound >after_too_long
+: >empty
+printf '{"object":"bridge","node":7,"show_data":""}\n' >small
+
+# same [< FILE] ARGUMENT...: one process and several print the same, and have the same status.
+same() {
+    input=/dev/null
+    [ "$1" != '<' ] || { input=$2 && shift 2; }
+    for jobs in 1 2 3 7; do
+        "$show" "$@" --jobs $jobs <"$input" >out.$jobs 2>err.$jobs
+        echo $? >>out.$jobs
+        "$show" "$@" --jobs $jobs <"$input" >both.$jobs 2>&1
+        for stream in out err both; do
+            cmp $stream.1 $stream.$jobs || fail "l2fib-show $* --jobs $jobs: not what one process prints (std$stream)"
+        done
+    done
+}
+files="sound mixed late empty none missing after_too_long small sound"
+for form in '' --json --heading '--json --heading' --count '--count --json' '--heading --status failed' \
+    '--object ac --direction egress' '--node 99'; do
+    # shellcheck disable=SC2086
+    same replay $form $files
+done
+same replay --bytes mixed
+for files in sound mixed 'sound mixed' 'mixed small missing sound' 'sound sound'; do
+    # shellcheck disable=SC2086
+    same check $files && same check --json --all $files
+done
+same check --json sound
+[ "$(wc -c <both.1)" -gt 200000 ] || fail "check --json: no more than $(wc -c <both.1) bytes to be compared"
+same replay --heading '<' mixed
+same '<' mixed replay --heading
+gzip -c mixed >mixed.gz
+same '<' mixed.gz replay
+head -c 300000 mixed.gz >short.gz
+same replay mixed.gz short.gz small
+i=0
+while [ $i -lt 2000 ]; do
+    i=$((i + 1))
+    echo small
+done | xargs "$show" replay --heading --jobs 3 sound >many 2>/dev/null
+[ "$(grep -c '^== small:1: bridge' many)" -eq 2000 ] || fail "2000 small files: $(grep -c '^== small' many)"
+
+# What comes slowly is shown as it comes.
+mkfifo slow
+"$show" replay --json --jobs 3 slow >seen &
+exec 9>slow
+cat sound >&9
+for _ in 1 2 3; do
+    before=$(wc -c <seen)
+    printf '{"object":"summary","show_data":""}\n' >&9
+    tries=0
+    while [ "$(wc -c <seen)" -eq "$before" ] && [ $tries -lt 100 ]; do
+        tries=$((tries + 1))
+        sleep 0.1
+    done
+    [ $tries -lt 100 ] || fail "a capture that comes slowly is not shown"
+done
+exec 9>&-
+wait
+
+# How it ends: a reader that goes away, a full disk, a worker that is ended, and all of them when the first one is.
+cat sound sound sound sound sound sound sound sound >longer
+for form in '' --json --bytes; do
+    ("$show" replay $form --jobs 3 longer 2>stderr; echo $? >status) | head -c 1 >/dev/null
+    [ "$(cat status)" -eq 141 ] && [ ! -s stderr ] || fail "closed pipe: status $(cat status): $(cat stderr)"
+done
+for command in replay 'replay --json' check; do
+    # shellcheck disable=SC2086
+    "$show" $command --jobs 3 longer >/dev/full 2>stderr
+    [ $? -eq 2 ] && [ "$(cat stderr)" = 'l2fib-show: standard output: No space left on device' ] ||
+        fail "full disk: $(cat stderr)"
+done
+# Nobody reads what they print after a while, so that all of them have something to do.
+mkfifo sink
+exec 8<>sink
+for whose in worker first; do
+    "$show" replay --jobs 3 longer >sink 2>stderr &
+    first=$!
+    head -c 200000 <&8 >/dev/null
+    tries=0
+    until [ "$(pgrep -c -P $first)" -eq 3 ] || [ $tries -eq 100 ]; do
+        tries=$((tries + 1))
+        sleep 0.1
+    done
+    sleep 0.2
+    workers=$(pgrep -P $first | paste -sd ' ')
+    if [ $whose = worker ]; then
+        kill -KILL "${workers#* * }"
+        cat <&8 >/dev/null &
+        reader=$!
+    else
+        kill -KILL $first
+    fi
+    wait $first 2>/dev/null
+    status=$?
+    if [ $whose = worker ]; then
+        kill $reader
+        [ $status -eq 2 ] && [ "$(cat stderr)" = 'l2fib-show: a process of this run was ended by signal 9 (Killed)' ] ||
+            fail "a worker that was killed: status $status: $(cat stderr)"
+    fi
+    tries=0
+    # shellcheck disable=SC2086 # those that nobody has waited for yet have no memory
+    until [ -z "$(ps -o rss= -p "$(echo $workers | tr ' ' ,)" | grep -v '^ *0$')" ] || [ $tries -eq 100 ]; do
+        tries=$((tries + 1))
+        sleep 0.1
+    done
+    [ $tries -lt 100 ] || fail "workers are left when the $whose was killed"
+done
+exit $((failures > 0))
