@@ -24,11 +24,11 @@ TEST(Capture, OnlyTheObjectAndItsShowDataAreNeeded)
 {
     const CaptureLine parsed =
         parse_capture(R"( {"show_data":"00","remark":{"card":[1,{"node":2,"node":1e400}]},"remark":-1e-5000,"x":)" +
-                      std::string(400, '9') + ",\r\t\"card\":1970180,\"object\":\"nhop\",\"node\":\"0x10\"} ");
+                      std::string(400, '9') + ",\r\t\"card\":1970180,\"object\":\"nhop\",\"node\":\"0xffffffff\",\"virtual_interfaces\":[9]} ");
     ASSERT_EQ(parsed.error, "");
     EXPECT_EQ(format_capture(parsed.capture),
-              R"({"object":"nhop","node":16,"card":"0x1e1004","direction":"ingress","view":"private",)"
-              R"("time_zone":"UTC0","show_data":"00"})");
+              R"({"object":"nhop","node":4294967295,"card":"0x1e1004","direction":"ingress","view":"private",)"
+              R"("time_zone":"UTC0","virtual_interfaces":["0x9"],"show_data":"00"})");
 }
 
 TEST(Capture, BrokenLines)
@@ -58,6 +58,7 @@ TEST(Capture, BrokenLines)
         {R"({"object":"mac",)"
          "\t\"a\tb\":1}",
          "broken JSON at byte 20"},
+        {"{\"a\":\"\\\"\tb\"}", "broken JSON at byte 9"},
         {R"({"object":"vlan\n","show_data":"00"})", R"(object: unknown 'vlan\x0a')"},
         {R"({"object":2})", "object: a text is needed"},
         {R"({"object":{"name":"ac"}})", "object: a text is needed"},
@@ -106,6 +107,7 @@ TEST(Capture, LinesSayAfterOthersWhatTheySayAlone)
         R"({"x":{"show_data":"33"},"object":"mac"})",
         R"({"x":"show_data","object":"mac","show_data":"44"})",
         R"({"x":"\"show_data\":\"55\"","object":"mac","show_data":"44"})",
+        R"({"x\"show_data":"55","object":"mac","show\u005fdata":"66"})",
         R"({"show_data": "66", "object": "mac"})",
         R"({"show_data" : "77", "object": "mac"})",
         R"({"show_data":)",

@@ -53,6 +53,24 @@ expect 0 empty 'l2fib-show: no capture fits --object pw --object mac --direction
     replay --object pw --object mac --direction egress --status failed numbers numbers
 expect 0 empty 'l2fib-show: no capture fits --node 1 (of 0)' -- replay --node 1
 expect 2 empty 'l2fib-show: missing: No such file or directory' -- replay --node 1 missing
+expect 0 empty 'l2fib-show: no capture fits --node 4294967295 (of 0)' -- replay --node 4294967295
+expect 0 empty 'l2fib-show: no capture fits --xid 0x00000000 (of 0)' -- replay --xid 00
+
+# Captures by their cross-connect ID: for a bridge that of its BVI. A MAC address has none, though its XID is shown.
+while read -r xid captures; do
+    found=$("$show" replay --heading --xid "$xid" "$source"/examples/*.jsonl 2>stderr | sed -n 's,^== .*/,,p' | paste -sd ' ')
+    if [ "$found" != "$captures" ]; then
+        echo "replay --xid $xid: found $found"
+        failures=$((failures + 1))
+    fi
+done <<END
+0x00340003 bridge-port.jsonl:1: bridge-port ingress detail vpls-ac-egress.jsonl:1: ac egress detail \
+vpls-ac-ingress.jsonl:1: ac ingress detail vpls-ac-private.jsonl:1: ac ingress private
+0x00380005 vpls-pw-ingress.jsonl:1: pw ingress detail vpls-pw-private.jsonl:1: pw ingress private
+0x00ff0001 bridge-egress.jsonl:1: bridge egress detail bridge-ingress.jsonl:1: bridge ingress detail \
+bridge-private.jsonl:1: bridge ingress private
+0
+END
 
 # Captures: what capture writes, replay shows; what is wrong with a line is told, and the rest goes on.
 ac=$source/examples/vpls-ac-ingress.jsonl
