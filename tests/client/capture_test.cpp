@@ -186,6 +186,8 @@ TEST(TimeZones, OnlyThoseThatPosixDescribes)
     for (const char *zone : {"UTC0", "EST5EDT", "<-03>3", "CET-1CEST,M3.5.0,M10.5.0/3", "EST+5EDT,J60/2:30,300"}) {
         EXPECT_TRUE(is_time_zone(zone)) << zone;
     }
+    const std::string longest = "<-1234>-100:00:00<+1234>+100:00:00,M10.5.0/+100:00:00,J1/-2:0:00";
+    EXPECT_TRUE(is_time_zone(longest) && !is_time_zone(longest + "0")) << longest.size();
     for (const char *zone : {"", "UTC", "Europe/Berlin", "/etc/localtime", ":UTC0", "../../dev/zero", "UTC0\n"}) {
         EXPECT_FALSE(is_time_zone(zone)) << zone;
     }

@@ -168,6 +168,8 @@ json 0 '' '[.size, .not_shown, .not_shown_nonzero, ([.bytes[].width] | add)]' '[
     replay --json --bytes "$source/examples/local-mac.jsonl"
 json 1 '' '[.status, .bytes[0].hex[:6]]' '[1176864768,"000300"]' -- ac --json --bytes short
 json 0 '' . '' -- replay --json
+head -c 4194304 /dev/zero >largest
+json 0 '' .status 0 -- summary --json largest
 
 # The samples with bytes changed: they cannot break the form, nor send a terminal anything but plain text.
 cat "$source"/examples/*.jsonl | perl -ne 'srand(1); for my $i (1 .. 5) {
@@ -307,6 +309,18 @@ printf -- '%s\n' --color=auto --color=always >words.txt
 expect 0 words.txt '' -- --complete ac --json --color=a
 printf 'replay\tShow the captures of files\n' >words.txt
 expect 0 words.txt '' -- --complete rep
+while read -r line; do
+    typed=${line%% => *} word=${line#* => }
+    # shellcheck disable=SC2086
+    set -- ${typed#l2fib-show}
+    word=$("$show" --complete "$@" | cut -f 1 | sed "s/^FILE\$/$word/")
+    if [ "$word" != "${line#* => }" ]; then
+        echo "--complete $*: $word"
+        failures=$((failures + 1))
+    fi
+done <<END
+$(sed '/^#/d' "$source/tests/client/completion.txt")
+END
 
 if ! "$show" ac - <"$capture" | cmp - "$screen"; then
     echo "standard input does not show what the file shows"

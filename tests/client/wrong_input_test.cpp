@@ -41,6 +41,7 @@ TEST(WrongInput, OnlyWhatIsCertain)
         {"\xfd"
          "7zXZ\1"s,
          ""},
+        {"\x28\xb5\x2f\xfd", "zstd: zstdcat FILE | l2fib-show ... -"},
         {"\n " + capture + "\n\0\1"s, "captures: use l2fib-show replay FILE"},
         {"{}\n", "captures: use l2fib-show replay FILE"},
         {capture + "\1"s, ""},
