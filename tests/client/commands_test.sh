@@ -17,7 +17,7 @@ run() {
 # page ARGUMENT...: the elements of a page, without its script and style sheet.
 page() {
     echo "== page $*"
-    "$show" page "$@" </dev/null 2>&1 |
+    { "$show" page "$@" </dev/null 2>&1 && echo || printf '\n== exit status %s\n' $?; } |
         perl -0777 -pe 's/<(script|style)>.*?<\/\1>//gs; s/content="default-src[^"]*"//; s/></>\n</g'
 }
 
@@ -62,6 +62,8 @@ line() {
         edit 0 local-switch-ac 30 0000000c
         edit 0 vpls-pw-ingress 8 00000001
         edit 0 vpls-pw-private 16 00380009
+        edit 1 local-switch-ac 26 00390001 30 0000000d
+        edit 0 local-mac 24 00390001 120 00390001
     } >nodes
     run check nodes
     # A bridge of more members than are kept unsorted, in any order.
@@ -71,12 +73,17 @@ line() {
     # What is in all files is told: a finding that is twice in one of them is in one, of another NP it is another.
     cat vpls-ac-ingress.jsonl >agrees
     line 3 >shg
-    edit 0 vpls-ac-ingress 3282 00000001 >shg_of_another_np
+    edit 0 vpls-ac-ingress 3714 00000001 >shg_of_another_np
     cat shg shg >twice
     run check --all twice agrees
+    run check agrees twice
     run check twice shg
     run check shg shg_of_another_np
     run check twice
+
+    # A limit that one line shows as negative, and the record of the RP has without a sign.
+    edit 0 vpls-ac-ingress 38 ffffffff 2794 ffffffff 3246 ffffffff 3698 ffffffff >unlimited
+    run check unlimited
 
     # Eight NPs, each with another VLAN; two have bridge ports, and the first one has no MAC limit, which no line shows.
     perl -ne '/(.*"show_data":")(.*)"/;
@@ -126,11 +133,13 @@ line() {
         run replay --count --status $status mixed
     done
 
-    line 57 >mac
+    edit 0 local-mac 8 00000000 120 00340009 >mac
     page mac
     line 30 >pw
     page pw
-    outline references nodes short
+    outline nodes references short
+    { cat local-switch-ac.jsonl && edit 0 local-mac; } >across
+    outline across
     line 51 >"it's <b>"
     outline "it's <b>" mac pw
     outline --object bridge noise
