@@ -25,7 +25,8 @@ public:
 private:
     struct FilesWithFinding {
         std::size_t count = 0;
-        std::size_t last = 0; ///< by its number among those that have the object; a file may have several captures of it
+        std::size_t last =
+            0; ///< by its number among those that have the object; a file may have several captures of it
     };
 
     struct Seen {

@@ -1,5 +1,5 @@
-// What checks say of each field of the samples when it is another, shown or not, and of each flag: which rule knows it, and
-// who is said to stand alone.
+// What checks say of each field of the samples when it is another, shown or not, and of each flag: which rule knows it,
+// and who is said to stand alone.
 #include "client/check/object_check.h"
 #include "client/rendering.h"
 #include "examples/captures.h"
