@@ -85,6 +85,10 @@ line() {
     edit 0 vpls-ac-ingress 38 ffffffff 2794 ffffffff 3246 ffffffff 3698 ffffffff >unlimited
     run check unlimited
 
+    # Tables that are just full, and in which one of everything has failed.
+    perl -pe 's/(show_data":".{24})(.*)"/$1 . "00000001" x (length($2) \/ 8) . "\""/e' resources.jsonl >ones
+    run check ones
+
     # Eight NPs, each with another VLAN; two have bridge ports, and the first one has no MAC limit, which no line shows.
     perl -ne '/(.*"show_data":")(.*)"/;
               my ($line, $data) = ($1, $2);
