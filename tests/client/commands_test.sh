@@ -89,6 +89,14 @@ line() {
     perl -pe 's/(show_data":".{24})(.*)"/$1 . "00000001" x (length($2) \/ 8) . "\""/e' resources.jsonl >ones
     run check ones
 
+    # More than is told: copies of a bridge's members that are others all over, and a report of many errors.
+    ones=$(printf '%096d' 0 | tr 0 f)
+    edit 0 bridge-ingress 2370 "$ones" 2466 "$ones" 2850 "$ones" >copies
+    run check copies
+    perl -e 'print "{\"object\":\"ac\",\"view\":\"inconsistent\",\"show_data\":\"",
+                   map({ sprintf "01070%d%08x%s", 3 + $_ % 2, $_, "040301" x ($_ % 20 == 0) } 1 .. 110), "050301\"}\n"' >report
+    run check report
+
     # Eight NPs, each with another VLAN; two have bridge ports, and the first one has no MAC limit, which no line shows.
     perl -ne '/(.*"show_data":")(.*)"/;
               my ($line, $data) = ($1, $2);
