@@ -97,6 +97,10 @@ line() {
                    map({ sprintf "01070%d%08x%s", 3 + $_ % 2, $_, "040301" x ($_ % 20 == 0) } 1 .. 110), "050301\"}\n"' >report
     run check report
 
+    # Flags that no rule is about: an NP has one more, and one has none of two that another has.
+    edit 0 vpls-ac-ingress 3183 00 3631 64 >flags
+    run check flags
+
     # Eight NPs, each with another VLAN; two have bridge ports, and the first one has no MAC limit, which no line shows.
     perl -ne '/(.*"show_data":")(.*)"/;
               my ($line, $data) = ($1, $2);
@@ -136,7 +140,9 @@ line() {
     printf '{"object":"mac","show_data":"%0300d11"}\n' 0 >>noise
     run replay --bytes --color always noise
     run replay --bytes point-to-point-pw.jsonl
-    run replay --json local-switch-ac.jsonl bridge-port.jsonl hal-summary.jsonl vpls-pw-private.jsonl inconsistent-ac.jsonl
+    run replay --json ./*-*.jsonl
+    edit 0 event-statistics 40 fffffffe >negative
+    run replay --json negative
     run replay --json --heading noise
 
     # By status.
