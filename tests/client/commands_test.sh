@@ -142,6 +142,8 @@ line() {
     run replay --bytes point-to-point-pw.jsonl
     run replay --json ./*-*.jsonl
     run replay --json --heading noise
+    sed -E 's/(show_data":"[0-9a-f]{40}).*/\1"}/' ./*-*.jsonl >twenty_bytes
+    run replay --json twenty_bytes
 
     # By status.
     cat short vpls-ac-ingress.jsonl >mixed
