@@ -62,10 +62,10 @@ line() {
         edit 0 local-switch-ac 30 0000000c
         edit 0 vpls-pw-ingress 8 00000001
         edit 0 vpls-pw-private 16 00380009
-        edit 1 local-switch-ac 26 00390001 30 0000000d
-        edit 0 local-mac 24 00390001 120 00390001
     } >nodes
     run check nodes
+    { cat local-switch-ac.jsonl && edit 1 local-switch-ac 26 00390001 && edit 0 local-mac 24 00390001 120 00390001; } >next
+    run check next
     # A bridge of more members than are kept unsorted, in any order.
     { cat vpls-ac-ingress.jsonl && for _ in $(seq 300); do cat bridge-ingress.jsonl; done; } >many
     run check many
