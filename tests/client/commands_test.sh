@@ -127,6 +127,11 @@ line() {
         print map { $of{kind($_)} } <$planted>' >before
     sed 's/"node":[0-9]*/"node":300/' local-mac.jsonl >>before
     run diff before planted.jsonl
+    edit 0 vpls-ac-ingress 98 01000000 >np1
+    for file in flags np1; do
+        run diff vpls-ac-ingress.jsonl $file
+        run diff $file vpls-ac-ingress.jsonl
+    done
     sed -E 's/(show_data":"[0-9a-f]{400}).*/\1"}/' vpls-ac-ingress.jsonl >short
     run diff vpls-ac-ingress.jsonl short
     run diff --json short vpls-ac-ingress.jsonl
