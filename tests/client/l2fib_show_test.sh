@@ -55,6 +55,8 @@ expect 0 empty 'l2fib-show: no capture fits --node 1 (of 0)' -- replay --node 1
 expect 2 empty 'l2fib-show: missing: No such file or directory' -- replay --node 1 missing
 expect 0 empty 'l2fib-show: no capture fits --node 4294967295 (of 0)' -- replay --node 4294967295
 expect 0 empty 'l2fib-show: no capture fits --xid 0x00000000 (of 0)' -- replay --xid 00
+expect 0 empty 'l2fib-show: no capture fits --direction ingress (of 1)' -- \
+    replay --direction ingress "$source/examples/hal-summary.jsonl" # which has none
 
 # Captures by their cross-connect ID: for a bridge that of its BVI. A MAC address has none, though its XID is shown.
 while read -r xid captures; do
