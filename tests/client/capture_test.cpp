@@ -24,7 +24,8 @@ TEST(Capture, OnlyTheObjectAndItsShowDataAreNeeded)
 {
     const CaptureLine parsed =
         parse_capture(R"( {"show_data":"00","remark":{"card":[1,{"node":2,"node":1e400}]},"remark":-1e-5000,"x":)" +
-                      std::string(400, '9') + ",\r\t\"card\":1970180,\"object\":\"nhop\",\"node\":\"0xffffffff\",\"virtual_interfaces\":[9]} ");
+                      std::string(400, '9') +
+                      ",\r\t\"card\":1970180,\"object\":\"nhop\",\"node\":\"0xffffffff\",\"virtual_interfaces\":[9]} ");
     ASSERT_EQ(parsed.error, "");
     EXPECT_EQ(format_capture(parsed.capture),
               R"({"object":"nhop","node":4294967295,"card":"0x1e1004","direction":"ingress","view":"private",)"

@@ -1,5 +1,5 @@
 #!/bin/sh
-# commands_test.sh L2FIB_SHOW SOURCE_DIR: what commands print, and how they exit, is what tests/screens/commands.txt has.
+# commands_test.sh L2FIB_SHOW SOURCE_DIR: what commands print, and how they exit, is in tests/screens/commands.txt.
 # With L2FIB_ACCEPT_SCREENS set, what they print now is made what is expected.
 show=$1
 source=$2
@@ -64,7 +64,11 @@ line() {
         edit 0 vpls-pw-private 16 00380009
     } >nodes
     run check nodes
-    { cat local-switch-ac.jsonl && edit 1 local-switch-ac 26 00390001 && edit 0 local-mac 24 00390001 120 00390001; } >next
+    {
+        cat local-switch-ac.jsonl
+        edit 1 local-switch-ac 26 00390001
+        edit 0 local-mac 24 00390001 120 00390001
+    } >next
     run check next
     # A bridge of more members than are kept unsorted, in any order.
     { cat vpls-ac-ingress.jsonl && for _ in $(seq 300); do cat bridge-ingress.jsonl; done; } >many
@@ -93,8 +97,9 @@ line() {
     ones=$(printf '%096d' 0 | tr 0 f)
     edit 0 bridge-ingress 2370 "$ones" 2466 "$ones" 2850 "$ones" >copies
     run check copies
-    perl -e 'print "{\"object\":\"ac\",\"view\":\"inconsistent\",\"show_data\":\"",
-                   map({ sprintf "01070%d%08x%s", 3 + $_ % 2, $_, "040301" x ($_ % 20 == 0) } 1 .. 110), "050301\"}\n"' >report
+    perl -e 'print "{\"object\":\"ac\",\"view\":\"inconsistent\",\"show_data\":\"";
+             printf "01070%d%08x%s", 3 + $_ % 2, $_, "040301" x ($_ % 20 == 0) for 1 .. 110;
+             print "050301\"}\n"' >report
     run check report
 
     # Flags that no rule is about: an NP has two more than the first one, and another has one of these.

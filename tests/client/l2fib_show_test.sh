@@ -60,7 +60,8 @@ expect 0 empty 'l2fib-show: no capture fits --direction ingress (of 1)' -- \
 
 # Captures by their cross-connect ID: for a bridge that of its BVI. A MAC address has none, though its XID is shown.
 while read -r xid captures; do
-    found=$("$show" replay --heading --xid "$xid" "$source"/examples/*.jsonl 2>stderr | sed -n 's,^== .*/,,p' | paste -sd ' ')
+    "$show" replay --heading --xid "$xid" "$source"/examples/*.jsonl >stdout 2>stderr
+    found=$(sed -n 's,^== .*/,,p' stdout | paste -sd ' ')
     if [ "$found" != "$captures" ]; then
         echo "replay --xid $xid: found $found"
         failures=$((failures + 1))
