@@ -310,9 +310,39 @@ TEST(Scenes, BridgePort)
 {
     const GuardedBytes notified(port.layout.filled_with({{"port.last_notification", 2'000'000'000}}));
     EXPECT_EQ(printed([&] { port.show(notified.data(), notified.size()); }).find("N/A"), std::string::npos);
-    expect_golden("bridge-port-role.txt", play({
-        {"a P2MP role without a name", port, {{"port.flags", 0x200}, {"port.p2mp_role", 5}}},
-    }));
+}
+
+/// All names of an enumeration, and what stands for a number without one.
+TEST(Scenes, NamesOfNumbers)
+{
+    const Values limited = {{"block.port.features.features", 0x200}, {"block.port.storm_control[0].traffic[0].status", 3}};
+    const struct {
+        const char *label; // as a regular expression
+        Object object;
+        Values values;
+        const char *field;
+        unsigned highest;
+    } cases[] = {
+        {"AC: ", ac_without_nps, {}, "ac.context.service", 6},
+        {"PW: ", egress_pw, {{"pw.rp.context.state", 1}}, "pw.rp.context.service", 6},
+        {"State: ", ac_without_nps, {}, "ac.context.state", 5},
+        {"SHG: ", ac_without_nps, {}, "ac.context.shg", 3},
+        {"P2MP Role: ", port, {{"port.flags", 0x200}}, "port.p2mp_role", 5},
+        {"  Type: ", plain_ingress_ac, {}, "xid[0].type", 11},
+        {"Remote type: ", plain_ingress_ac, {}, "xid[0].remote_type", 11},
+        {"Multicast      \\|", ingress_ac, limited, "block.port.storm_control[0].traffic[1].status", 6},
+    };
+    std::string text;
+    for (const auto &c : cases) {
+        for (unsigned number = 0; number <= c.highest; ++number) {
+            const GuardedBytes data(c.object.layout.filled_with(c.object.values + c.values + Values{{c.field, number}}));
+            const std::string screen = printed([&] { c.object.show(data.data(), data.size()); });
+            std::smatch name;
+            std::regex_search(screen, name, std::regex(std::string(c.label) + "[^,|\n]*"));
+            text += std::string(c.field) + ' ' + std::to_string(number) + ": " + name.str() + '\n';
+        }
+    }
+    expect_golden("names.txt", text);
 }
 
 TEST(Scenes, Summaries)

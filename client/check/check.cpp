@@ -23,12 +23,18 @@ public:
     void report(CheckReport &report);
 
 private:
+    struct FilesWithFinding {
+        std::size_t count = 0;
+        std::size_t last =
+            0; ///< by its number among those that have the object; a file may have several captures of it
+    };
+
     struct Seen {
         CheckedObject object; ///< as it was captured last
         std::vector<std::uint8_t> received;
         std::string file;
         std::size_t files = 0;
-        std::map<std::string, std::size_t> findings; ///< in how many files
+        std::map<std::string, FilesWithFinding> findings;
     };
 
     std::map<std::string, Seen> objects_;
@@ -53,8 +59,9 @@ void Repeated::add(const CheckedObject &object, std::span<const std::uint8_t> re
         ++seen.files;
     }
     for (const Finding &finding : object.findings) {
-        std::size_t &files = seen.findings[identity_of(finding)];
-        files = std::min(files + 1, seen.files);
+        FilesWithFinding &files = seen.findings[identity_of(finding)];
+        files.count += files.last == seen.files ? 0 : 1;
+        files.last = seen.files;
     }
     seen.object = object;
     seen.received.clear();
@@ -68,7 +75,7 @@ void Repeated::report(CheckReport &report)
     for (const std::string &name : in_order_) {
         Seen &seen = objects_[name];
         std::erase_if(seen.object.findings,
-                      [&](const Finding &finding) { return seen.findings[identity_of(finding)] < seen.files; });
+                      [&](const Finding &finding) { return seen.findings[identity_of(finding)].count < seen.files; });
         report.object(seen.object, seen.received);
     }
 }

@@ -24,11 +24,12 @@ TEST(Capture, OnlyTheObjectAndItsShowDataAreNeeded)
 {
     const CaptureLine parsed =
         parse_capture(R"( {"show_data":"00","remark":{"card":[1,{"node":2,"node":1e400}]},"remark":-1e-5000,"x":)" +
-                      std::string(400, '9') + ",\r\t\"card\":1970180,\"object\":\"nhop\",\"node\":\"0x10\"} ");
+                      std::string(400, '9') +
+                      ",\r\t\"card\":1970180,\"object\":\"nhop\",\"node\":\"0xffffffff\",\"virtual_interfaces\":[9]} ");
     ASSERT_EQ(parsed.error, "");
     EXPECT_EQ(format_capture(parsed.capture),
-              R"({"object":"nhop","node":16,"card":"0x1e1004","direction":"ingress","view":"private",)"
-              R"("time_zone":"UTC0","show_data":"00"})");
+              R"({"object":"nhop","node":4294967295,"card":"0x1e1004","direction":"ingress","view":"private",)"
+              R"("time_zone":"UTC0","virtual_interfaces":["0x9"],"show_data":"00"})");
 }
 
 TEST(Capture, BrokenLines)
@@ -58,6 +59,7 @@ TEST(Capture, BrokenLines)
         {R"({"object":"mac",)"
          "\t\"a\tb\":1}",
          "broken JSON at byte 20"},
+        {"{\"a\":\"\\\"\tb\"}", "broken JSON at byte 9"},
         {R"({"object":"vlan\n","show_data":"00"})", R"(object: unknown 'vlan\x0a')"},
         {R"({"object":2})", "object: a text is needed"},
         {R"({"object":{"name":"ac"}})", "object: a text is needed"},
@@ -106,6 +108,7 @@ TEST(Capture, LinesSayAfterOthersWhatTheySayAlone)
         R"({"x":{"show_data":"33"},"object":"mac"})",
         R"({"x":"show_data","object":"mac","show_data":"44"})",
         R"({"x":"\"show_data\":\"55\"","object":"mac","show_data":"44"})",
+        R"({"x\"show_data":"55","object":"mac","show\u005fdata":"66"})",
         R"({"show_data": "66", "object": "mac"})",
         R"({"show_data" : "77", "object": "mac"})",
         R"({"show_data":)",
@@ -184,6 +187,8 @@ TEST(TimeZones, OnlyThoseThatPosixDescribes)
     for (const char *zone : {"UTC0", "EST5EDT", "<-03>3", "CET-1CEST,M3.5.0,M10.5.0/3", "EST+5EDT,J60/2:30,300"}) {
         EXPECT_TRUE(is_time_zone(zone)) << zone;
     }
+    const std::string longest = "<-1234>-100:00:00<+1234>+100:00:00,M10.5.0/+100:00:00,J1/-2:0:00";
+    EXPECT_TRUE(is_time_zone(longest) && !is_time_zone(longest + "0")) << longest.size();
     for (const char *zone : {"", "UTC", "Europe/Berlin", "/etc/localtime", ":UTC0", "../../dev/zero", "UTC0\n"}) {
         EXPECT_FALSE(is_time_zone(zone)) << zone;
     }

@@ -43,6 +43,10 @@ TEST(HexDump, Forms)
         {HexForm::any,
          "00000000  41 42 |AB|\n*\n00000006  7c 0a |\x7c.|\n00000008\n",
          {0x41, 0x42, 0x41, 0x42, 0x41, 0x42, 0x7c, 0x0a}},
+        {HexForm::any,
+         "00000000  41 42 |AB|\n00000002  43 44 |CD|\n*\n00000006\n",
+         {0x41, 0x42, 0x43, 0x44, 0x43, 0x44}},
+        {HexForm::any, "00000000  00 |.|\n*\n00000040\n", Bytes(64)},
     };
     for (const auto &c : cases) {
         const HexBytes read = read_hex_dump(c.text, c.form, 64);
@@ -85,6 +89,9 @@ TEST(HexDump, WhatIsNone)
         {HexForm::any, "000000 000400 001234\n000010 000001\n", "line 1, column 8", words},
         {HexForm::any, "000000      0  -1234\n000004\n", "line 1, column 13", neither},
         {HexForm::any, "000001 00 11\n000003 22\n", "line 1, column 1", offset},
+        {HexForm::any, "000001 00\n000021 22\n", "line 1, column 1", offset},
+        {HexForm::any, "000001 00 0\n000022 22\n", "line 1, column 11", "not pairs of hex digits"},
+        {HexForm::any, "000000 0706050403020100", "line 1, column 8", words},
         {HexForm::hexdump, "00000000  00 11 |..|\n*\n00000003\n", "line 3, column 1", offset},
         {HexForm::hexdump, "00000000  00 |.|\n*\nffffffff\n", "line 3, column 1", "more bytes than any show data has"},
         {HexForm::hexdump, "*\n00000004\n", "line 2, column 1", offset},

@@ -53,6 +53,27 @@ expect 0 empty 'l2fib-show: no capture fits --object pw --object mac --direction
     replay --object pw --object mac --direction egress --status failed numbers numbers
 expect 0 empty 'l2fib-show: no capture fits --node 1 (of 0)' -- replay --node 1
 expect 2 empty 'l2fib-show: missing: No such file or directory' -- replay --node 1 missing
+expect 0 empty 'l2fib-show: no capture fits --node 4294967295 (of 0)' -- replay --node 4294967295
+expect 0 empty 'l2fib-show: no capture fits --xid 0x00000000 (of 0)' -- replay --xid 00
+expect 0 empty 'l2fib-show: no capture fits --direction ingress (of 1)' -- \
+    replay --direction ingress "$source/examples/hal-summary.jsonl" # which has none
+
+# Captures by their cross-connect ID: for a bridge that of its BVI. A MAC address has none, though its XID is shown.
+while read -r xid captures; do
+    "$show" replay --heading --xid "$xid" "$source"/examples/*.jsonl >stdout 2>stderr
+    found=$(sed -n 's,^== .*/,,p' stdout | paste -sd ' ')
+    if [ "$found" != "$captures" ]; then
+        echo "replay --xid $xid: found $found"
+        failures=$((failures + 1))
+    fi
+done <<END
+0x00340003 bridge-port.jsonl:1: bridge-port ingress detail vpls-ac-egress.jsonl:1: ac egress detail \
+vpls-ac-ingress.jsonl:1: ac ingress detail vpls-ac-private.jsonl:1: ac ingress private
+0x00380005 vpls-pw-ingress.jsonl:1: pw ingress detail vpls-pw-private.jsonl:1: pw ingress private
+0x00ff0001 bridge-egress.jsonl:1: bridge egress detail bridge-ingress.jsonl:1: bridge ingress detail \
+bridge-private.jsonl:1: bridge ingress private
+0
+END
 
 # Captures: what capture writes, replay shows; what is wrong with a line is told, and the rest goes on.
 ac=$source/examples/vpls-ac-ingress.jsonl
@@ -150,6 +171,8 @@ json 0 '' '[.size, .not_shown, .not_shown_nonzero, ([.bytes[].width] | add)]' '[
     replay --json --bytes "$source/examples/local-mac.jsonl"
 json 1 '' '[.status, .bytes[0].hex[:6]]' '[1176864768,"000300"]' -- ac --json --bytes short
 json 0 '' . '' -- replay --json
+head -c 4194304 /dev/zero >largest
+json 0 '' .status 0 -- summary --json largest
 
 # The samples with bytes changed: they cannot break the form, nor send a terminal anything but plain text.
 cat "$source"/examples/*.jsonl | perl -ne 'srand(1); for my $i (1 .. 5) {
@@ -313,6 +336,18 @@ printf -- '%s\n' --color=auto --color=always >words.txt
 expect 0 words.txt '' -- --complete ac --json --color=a
 printf 'replay\tShow the captures of files\n' >words.txt
 expect 0 words.txt '' -- --complete rep
+while read -r line; do
+    typed=${line%% => *} word=${line#* => }
+    # shellcheck disable=SC2086
+    set -- ${typed#l2fib-show}
+    word=$("$show" --complete "$@" | cut -f 1 | sed "s/^FILE\$/$word/")
+    if [ "$word" != "${line#* => }" ]; then
+        echo "--complete $*: $word"
+        failures=$((failures + 1))
+    fi
+done <<END
+$(sed '/^#/d' "$source/tests/client/completion.txt")
+END
 
 if ! "$show" ac - <"$capture" | cmp - "$screen"; then
     echo "standard input does not show what the file shows"
