@@ -127,7 +127,7 @@ for whose in worker first; do
     wait $first 2>/dev/null
     status=$?
     if [ $whose = worker ]; then
-        kill $reader
+        kill "$reader"
         ended "$status" 2 'l2fib-show: a process of this run was ended by signal 9 (Killed)' "a worker that was killed"
     fi
     tries=0
