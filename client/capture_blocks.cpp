@@ -104,8 +104,7 @@ void CaptureBlocks::add_part(Block &block, const Block::Part &part)
 
 void CaptureBlocks::add_message(Block &block, std::string_view message)
 {
-    const std::size_t size = std::min(message.size(), block.text.size() - block.size);
-    std::copy_n(message.begin(), size, &block.text[block.size]);
+    const std::size_t size = message.copy(&block.text[block.size], block.text.size() - block.size);
     add_part(block, {Kind::message, file_, 0, block.size, size});
     block.size += size;
 }

@@ -31,7 +31,7 @@ private:
 
 static void check_lines(const MemoryFile &file, std::string_view rest, std::size_t longest)
 {
-    Input input(file.path());
+    Input input(file.path(), Compressed::never);
     while (const auto line = input.next_line(longest)) {
         require(!rest.empty(), "there are no more lines than the file has");
         const std::string_view expected = rest.substr(0, rest.find('\n'));
@@ -45,7 +45,7 @@ static void check_lines(const MemoryFile &file, std::string_view rest, std::size
 
 static void check_all(const MemoryFile &file, std::string_view content, std::size_t longest)
 {
-    Input input(file.path());
+    Input input(file.path(), Compressed::never);
     require(input.read_all(longest) == content.substr(0, longest + 1), "the file is read as far as it is wanted");
 }
 

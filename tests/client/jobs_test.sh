@@ -7,6 +7,13 @@ work=$(mktemp -d) && cd "$work" || exit 2
 trap 'rm -rf "$work"' EXIT
 failures=0
 
+# ended STATUS WANTED MESSAGE WHAT: with this status, and this on standard error.
+ended() {
+    if [ "$1" -ne "$2" ] || [ "$(cat stderr)" != "$3" ]; then
+        fail "$4: status $1: $(cat stderr)"
+    fi
+}
+
 fail() {
     echo "$*"
     failures=$((failures + 1))
@@ -15,7 +22,7 @@ fail() {
 # Files of several blocks of the input: sound ones, such with broken lines at the beginning, in the middle and at the
 # end, lines longer than a block and than any capture, a late first capture, none at all, no end of the last line.
 cat "$source"/examples/*.jsonl >all
-for _ in 1 2 3 4 5 6 7 8; do cat all "$source/examples/faults/planted.jsonl"; done >sound
+for _ in 1 2 3; do cat all "$source/examples/faults/planted.jsonl"; done >sound
 perl -e 'print "{\"object\":\"ac\",\"remark\":\"", "x" x 3000000, "\",\"show_data\":\"00\"}\n"' >long
 perl -e 'print "x" x 9000000, "\n"' >too_long
 printf 'nonsense\n{"object":"ac"}\n\n \n' >broken
@@ -36,7 +43,7 @@ same() {
         echo $? >>out.$jobs
         "$show" "$@" --jobs $jobs <"$input" >both.$jobs 2>&1
         for stream in out err both; do
-            cmp $stream.1 $stream.$jobs || fail "l2fib-show $* --jobs $jobs: not what one process prints (std$stream)"
+            cmp $stream.1 "$stream.$jobs" || fail "l2fib-show $* --jobs $jobs: not what one process prints (std$stream)"
         done
     done
 }
@@ -52,7 +59,7 @@ for files in sound mixed 'sound mixed' 'mixed small missing sound' 'sound sound'
     same check $files && same check --json --all $files
 done
 same check --json sound
-[ "$(wc -c <both.1)" -gt 200000 ] || fail "check --json: no more than $(wc -c <both.1) bytes to be compared"
+[ "$(wc -c <both.1)" -gt 100000 ] || fail "check --json: no more than $(wc -c <both.1) bytes to be compared"
 same replay --heading '<' mixed
 same '<' mixed replay --heading
 gzip -c mixed >mixed.gz
@@ -85,17 +92,17 @@ exec 9>&-
 wait
 
 # How it ends: a reader that goes away, a full disk, a worker that is ended, and all of them when the first one is.
-cat sound sound sound sound sound sound sound sound >longer
+cat sound sound sound sound >longer
 for form in '' --json --bytes; do
     ("$show" replay $form --jobs 3 longer 2>stderr; echo $? >status) | head -c 1 >/dev/null
-    [ "$(cat status)" -eq 141 ] && [ ! -s stderr ] || fail "closed pipe: status $(cat status): $(cat stderr)"
+    ended "$(cat status)" 141 '' "a closed pipe"
 done
 for command in replay 'replay --json' check; do
     # shellcheck disable=SC2086
     "$show" $command --jobs 3 longer >/dev/full 2>stderr
-    [ $? -eq 2 ] && [ "$(cat stderr)" = 'l2fib-show: standard output: No space left on device' ] ||
-        fail "full disk: $(cat stderr)"
+    ended $? 2 'l2fib-show: standard output: No space left on device' "$command on a full disk"
 done
+
 # Nobody reads what they print after a while, so that all of them have something to do.
 mkfifo sink
 exec 8<>sink
@@ -120,13 +127,11 @@ for whose in worker first; do
     wait $first 2>/dev/null
     status=$?
     if [ $whose = worker ]; then
-        kill $reader
-        [ $status -eq 2 ] && [ "$(cat stderr)" = 'l2fib-show: a process of this run was ended by signal 9 (Killed)' ] ||
-            fail "a worker that was killed: status $status: $(cat stderr)"
+        kill "$reader"
+        ended "$status" 2 'l2fib-show: a process of this run was ended by signal 9 (Killed)' "a worker that was killed"
     fi
     tries=0
-    # shellcheck disable=SC2086 # those that nobody has waited for yet have no memory
-    until [ -z "$(ps -o rss= -p "$(echo $workers | tr ' ' ,)" | grep -v '^ *0$')" ] || [ $tries -eq 100 ]; do
+    while ps -o rss= -p "$workers" | grep -qv '^ *0$' && [ $tries -lt 100 ]; do # the dead have no memory
         tries=$((tries + 1))
         sleep 0.1
     done

@@ -298,8 +298,8 @@ for format in gzip:gz xz:xz zstd:zst; do
     "$show" replay <parts | cmp - whole.txt || failures=$((failures + 1))
     expect 0 "$screen" '' -- ac "$capture.${format#*:}"
     expect 0 "$screen" '' -- ac --hex "vpls-ac-ingress.hex.${format#*:}"
-    head -c -9 many."${format#*:}" >cut
-    "$show" replay cut >cut.txt 2>stderr
+    head -c -9 many."${format#*:}" >cut_off
+    "$show" replay cut_off >cut.txt 2>stderr
     if [ $? -ne 2 ] || ! grep -q ' ends early, after [0-9]* bytes$' stderr ||
         ! head -c "$(wc -c <cut.txt)" whole.txt | cmp - cut.txt || [ ! -s cut.txt ]; then
         echo "replay of ${format%:*} that is cut short: $(wc -c <cut.txt) bytes, on stderr: $(cat stderr)"
