@@ -3,8 +3,7 @@
 // floor); how long the mix takes as JSON; and how long it takes to read captures.
 #include "bench/json_forms.h"
 #include "bench/text_of.h"
-#include "client/capture_reader.h"
-#include "client/input.h"
+#include "client/capture_blocks.h"
 #include "examples/sample_lines.h"
 #include "zel_l2fib/show.h"
 
@@ -183,13 +182,19 @@ constexpr std::size_t captures_read = 10'000;
 /// Reads captures as replay does, without showing them.
 static void measure_reading(benchmark::State &state, const CaptureFile &file)
 {
-    constexpr std::size_t longest_line = std::size_t{1} << 20U;
+    const std::vector<std::string> files{file.path()};
+    SharedBlocks memory(1);
     while (state.KeepRunning()) {
         const double begin = cpu_seconds();
-        Input input(file.path());
+        CaptureBlocks blocks(files);
         CaptureReader reader;
-        while (const auto line = input.next_line(longest_line)) {
-            benchmark::DoNotOptimize(reader.read(line->text));
+        while (blocks.fill(memory[0])) {
+            for (const Block::Part &part : memory[0].used_parts()) {
+                for_each_line(memory[0].text_of(part), [&reader](std::string_view line) {
+                    benchmark::DoNotOptimize(reader.read(line));
+                    return true;
+                });
+            }
         }
         state.SetIterationTime(cpu_seconds() - begin);
     }

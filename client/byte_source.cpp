@@ -137,4 +137,19 @@ std::size_t ByteSource::decompress(std::span<char> room)
     return 0;
 }
 
+WholeFile read_whole_file(const std::string &path, std::size_t longest, Compressed compressed)
+{
+    constexpr std::size_t piece = std::size_t{1} << 16U;
+    ByteSource source(path, compressed);
+    WholeFile file;
+    std::size_t count = 1;
+    for (std::size_t size = 0; count != 0 && size <= longest; size += count) {
+        file.content.resize(std::min(size + piece, longest + 1));
+        count = source.read(std::span(file.content).subspan(size));
+        file.content.resize(size + count);
+    }
+    file.error = source.error();
+    return file;
+}
+
 } // namespace l2fib

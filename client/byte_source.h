@@ -58,4 +58,12 @@ private:
     std::size_t taken_ = 0;   ///< compressed bytes
 };
 
+struct WholeFile {
+    std::vector<char> content; ///< up to one byte more than was wanted
+    std::string error;         ///< why nothing more could be read; empty when all was
+};
+
+/// Reads a file, or standard input for "-", up to one byte more than `longest`.
+WholeFile read_whole_file(const std::string &path, std::size_t longest, Compressed compressed);
+
 } // namespace l2fib

@@ -1,6 +1,6 @@
 #include "client/show_data_file.h"
 
-#include "client/input.h"
+#include "client/byte_source.h"
 #include "client/wrong_input.h"
 
 namespace l2fib
@@ -28,12 +28,14 @@ ShowDataFile read_show_data(const std::string &path, const ChosenFormat &format)
 {
     constexpr std::size_t longest_dump = 8 * longest_show_data; // with its offsets and characters
     const bool are_plain_bytes = format.is_told && !format.hex;
-    Input input(path, are_plain_bytes ? Compressed::never : format.hex ? Compressed::by_magic : Compressed::by_header);
-    const std::string_view text = input.read_all(longest_dump);
-    if (!input.error().empty()) {
-        return {{}, input.error()};
+    const Compressed compressed = are_plain_bytes ? Compressed::never
+                                  : format.hex    ? Compressed::by_magic
+                                                  : Compressed::by_header;
+    const WholeFile file = read_whole_file(path, longest_dump, compressed);
+    if (!file.error.empty()) {
+        return {{}, file.error};
     }
-    HexBytes bytes = bytes_of(text, format);
+    HexBytes bytes = bytes_of({file.content.data(), file.content.size()}, format);
     if (!bytes.error.empty()) {
         return {{}, path + ": " + bytes.error};
     }

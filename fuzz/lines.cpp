@@ -1,6 +1,5 @@
-// Proves that a file comes in the lines that it has, that of a line above the limit nothing comes but that it was
-// there, and that a whole file comes as far as its limit.
-#include "client/input.h"
+// Proves that the lines of a file come as they are, and that a file of any content comes to an end.
+#include "client/capture_blocks.h"
 #include "fuzz/target.h"
 
 #include <algorithm>
@@ -9,6 +8,12 @@
 
 namespace l2fib
 {
+
+static Block &block_memory()
+{
+    static SharedBlocks memory(1);
+    return memory[0];
+}
 
 /// A file in memory, under a name.
 class MemoryFile
@@ -29,37 +34,46 @@ private:
     int file_;
 };
 
-static void check_lines(const MemoryFile &file, std::string_view rest, std::size_t longest)
+/// Lines after a capture come as they are, each once and with its number, however they are cut into blocks.
+static void check_lines(std::string_view content)
 {
-    Input input(file.path(), Compressed::never);
-    while (const auto line = input.next_line(longest)) {
-        require(!rest.empty(), "there are no more lines than the file has");
-        const std::string_view expected = rest.substr(0, rest.find('\n'));
-        rest.remove_prefix(std::min(expected.size() + 1, rest.size()));
-        const bool fits = expected.size() <= longest;
-        require(line->is_too_long == !fits, "a line is too long when it does not fit");
-        require(line->text == (fits ? expected : std::string_view{}), "the line is the file's");
+    const std::string all = R"({"object":"ac","show_data":""})"
+                            "\n" +
+                            std::string(content);
+    const MemoryFile file(all);
+    const std::vector<std::string> files{file.path()};
+    CaptureBlocks blocks(files);
+    std::string read;
+    std::size_t line = 1;
+    for (Block &block = block_memory(); blocks.fill(block);) {
+        for (const Block::Part &part : block.used_parts()) {
+            const std::string_view text = block.text_of(part);
+            require(part.kind == Block::Part::Kind::lines && part.line == line, "the lines follow each other");
+            line += static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+            read += text;
+        }
     }
-    require(rest.empty() && input.error().empty(), "all lines were read");
+    require(read == all, "all lines were read");
 }
 
-static void check_all(const MemoryFile &file, std::string_view content, std::size_t longest)
+/// Whatever the file is, compressed or broken, it comes to an end.
+static void check_any(std::string_view content)
 {
-    Input input(file.path(), Compressed::never);
-    require(input.read_all(longest) == content.substr(0, longest + 1), "the file is read as far as it is wanted");
+    const MemoryFile file(content);
+    const std::vector<std::string> files{file.path()};
+    CaptureBlocks blocks(files);
+    while (blocks.fill(block_memory())) {
+    }
+    const WholeFile whole = read_whole_file(file.path(), content.size(), Compressed::never);
+    require(std::string_view(whole.content.data(), whole.content.size()) == content, "the file is read as a whole");
 }
 
 } // namespace l2fib
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    if (size == 0) {
-        return 0;
-    }
-    const std::size_t longest = data[0];
-    const std::string_view content(reinterpret_cast<const char *>(data) + 1, size - 1);
-    const l2fib::MemoryFile file(content);
-    l2fib::check_lines(file, content, longest);
-    l2fib::check_all(file, content, longest);
+    const std::string_view content(reinterpret_cast<const char *>(data), size);
+    l2fib::check_lines(content);
+    l2fib::check_any(content);
     return 0;
 }
