@@ -91,10 +91,16 @@ struct TakenDown {
 
 TEST(Diff, PassesOverWhatChangesByItself)
 {
+    std::set<std::string> tried; // the elements of an array are alike
     std::set<std::string> passed_over;
     for (const Capture &sample : samples()) {
         const TakenDown before(sample);
         for_each_byte_run(sample, [&](const recording::ByteRun &run) {
+            const std::string name = std::string(run.record) + '.' + run.field;
+            const std::string field = std::regex_replace(name, std::regex("[0-9]+"), "");
+            if (!tried.insert(field).second) {
+                return;
+            }
             Capture changed = sample;
             changed.show_data[run.offset + run.size - 1] ^= 0x40;
             const TakenDown after(changed);
@@ -102,8 +108,7 @@ TEST(Diff, PassesOverWhatChangesByItself)
                 return changes({before.tree, before.received}, {after.tree, after.received}, all).size();
             };
             if (changes_with(false) < changes_with(true)) {
-                const std::string field = std::string(run.record) + '.' + run.field;
-                passed_over.insert(std::regex_replace(field, std::regex("[0-9]+"), ""));
+                passed_over.insert(field);
             }
         });
     }

@@ -155,6 +155,15 @@ line() {
     sed -E 's/(show_data":"[0-9a-f]{40}).*/\1"}/' ./*-*.jsonl >twenty_bytes
     run replay --json twenty_bytes
 
+    # Flags without a name, and each flag of the HAL: one says in what the rates of storm control are.
+    echo "== replay --bytes, flags without a name"
+    "$show" replay --bytes vpls-ac-ingress.jsonl bridge-ingress.jsonl | grep '#'
+    for flag in 80 40 20 10 08 04 02 01; do
+        edit 0 bridge-ingress 918 $flag >hal
+        echo "== HAL flag $flag"
+        "$show" replay hal | grep -A 1 -E 'HAL context|Storm Control Conf'
+    done
+
     # By status.
     cat short vpls-ac-ingress.jsonl >mixed
     for status in ok failed; do
