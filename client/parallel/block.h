@@ -21,12 +21,12 @@ struct Block {
         };
         Kind kind;
         std::uint32_t file;
-        std::uint64_t line; ///< the number of the first one
+        std::size_t line; ///< the number of the first one
         std::size_t offset; ///< in the text
         std::size_t size;
     };
 
-    static constexpr std::size_t usual_size = std::size_t{1} << 19U;
+    static constexpr std::size_t usual_size = std::size_t{1} << 21U;
     static constexpr std::size_t longest_line = (std::size_t{8} << 20U) + (std::size_t{64} << 10U);
     static constexpr std::size_t most_parts = 1024;
 

@@ -42,7 +42,7 @@ private:
     void write_text(std::string_view text);
 
     static constexpr std::size_t most_held = std::size_t{4} << 20U;
-    static constexpr std::size_t buffer_size = std::size_t{1} << 18U;
+    static constexpr std::size_t buffer_size = most_held;
 
     RingPlace place_;
     const char *separator_;

@@ -149,7 +149,7 @@ static void do_all(int socket, OrderedOutput &output, SharedBlocks &blocks, cons
 }
 
 Workers::Workers(unsigned count, BlockWork &work, const MakeWork &twin)
-    : count_(count), work_(work), twin_(twin), blocks_(count == 1 ? 1 : 2 * std::size_t{count})
+    : count_(count), work_(work), twin_(twin), blocks_(count == 1 ? 1 : blocks_of_each * count)
 {
 }
 
@@ -212,7 +212,7 @@ try {
 
 Block &Workers::next_block()
 {
-    while (started_ - done_ == 2 * std::size_t{count_}) {
+    while (started_ - done_ == blocks_of_each * count_) {
         take_result();
     }
     return blocks_[next_index()];

@@ -46,12 +46,14 @@ public:
     void finish();
 
 private:
+    static constexpr std::size_t blocks_of_each = 2; ///< one is done while the next one is read
+
     struct Worker {
         pid_t process;
         int socket;
     };
 
-    [[nodiscard]] std::size_t next_index() const { return started_ % (2 * std::size_t{count_}); }
+    [[nodiscard]] std::size_t next_index() const { return started_ % (blocks_of_each * count_); }
     void do_here(const Block &block);
     bool fork_all();
     bool fork_one(RingPlace place, std::initializer_list<int> of_others);
