@@ -21,7 +21,7 @@ struct Block {
         };
         Kind kind;
         std::uint32_t file;
-        std::size_t line; ///< the number of the first one
+        std::size_t line;   ///< the number of the first one
         std::size_t offset; ///< in the text
         std::size_t size;
     };
