@@ -26,7 +26,7 @@ struct Block {
         std::size_t size;
     };
 
-    static constexpr std::size_t usual_size = std::size_t{1} << 21U;
+    static constexpr std::size_t usual_size = std::size_t{1} << 19U;
     static constexpr std::size_t longest_line = (std::size_t{8} << 20U) + (std::size_t{64} << 10U);
     static constexpr std::size_t most_parts = 1024;
 
