@@ -109,8 +109,6 @@ std::uint32_t show_inconsistency(Output &out, const ViewRequest &request)
     return hand_over(out, 1, rest);
 }
 
-/// How many bytes of show data the view reads without a check. Where a count decides and the show data ends before it,
-/// this is the size of the record with the count. 0 for objects of which the view reads nothing.
 static std::uint64_t context_end(ViewKind view, const RpObject *object, ShowData data)
 {
     if (object == nullptr || data.is_null()) {
@@ -120,6 +118,11 @@ static std::uint64_t context_end(ViewKind view, const RpObject *object, ShowData
         return object->private_context == nullptr ? 0 : object->private_context->context_end(data);
     }
     return object->detail == nullptr ? 0 : object->detail->context_end(data);
+}
+
+std::uint64_t context_end(ViewKind view, const ViewRequest &request)
+{
+    return context_end(view, rp_object.find(request.objtype), request.data());
 }
 
 std::uint32_t show_whole_context(Output &out, ViewKind view, const ViewRequest &request)
