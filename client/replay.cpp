@@ -92,7 +92,7 @@ public:
         : options_(options), files_(
                                  options.files, options.selection,
                                  [this](Capture &capture, const CapturePlace &place) { return show(capture, place); },
-                                 [this] { flush(); }),
+                                 [this] { renderer_.flush(); }),
           renderer_(options.rendering)
     {
     }

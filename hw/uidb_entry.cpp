@@ -188,8 +188,9 @@ static constexpr UidbFlagSet flags_with_text_when_clear =
 /// Which flag is at a place of a set.
 static constexpr auto item_at = [] {
     std::array<std::uint8_t, bits_of_half * std::tuple_size_v<UidbFlagSet>> items{};
-    for (std::size_t i = 0; i < std::size(uidb_flags); ++i) {
-        items[place_of(uidb_flags[i].flag)] = static_cast<std::uint8_t>(i);
+    std::uint8_t next = 0;
+    for (const UidbFlagItem &item : uidb_flags) {
+        items[place_of(item.flag)] = next++;
     }
     return items;
 }();

@@ -89,7 +89,7 @@ public:
           files_(
               options.files, options.selection,
               [this](Capture &capture, const CapturePlace &place) { return take(capture, place); },
-              [this] { flush(); }),
+              [this] { report_.flush(); }),
           report_(options.json)
     {
     }
