@@ -189,6 +189,7 @@ static void measure_reading(benchmark::State &state, const CaptureFile &file)
         CaptureBlocks blocks(files);
         CaptureReader reader;
         while (blocks.fill(memory[0])) {
+            memory[0].fetch();
             for (const Block::Part &part : memory[0].used_parts()) {
                 for_each_line(memory[0].text_of(part), [&reader](std::string_view line) {
                     benchmark::DoNotOptimize(reader.read(line));

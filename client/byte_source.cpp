@@ -1,10 +1,12 @@
 #include "client/byte_source.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace l2fib
@@ -50,6 +52,30 @@ std::size_t ByteSource::read_file(std::span<char> room)
         return 0;
     }
     return static_cast<std::size_t>(count);
+}
+
+std::optional<FilePart> ByteSource::skip_lines(std::size_t bytes_before, std::size_t usual_size,
+                                               std::size_t longest_line)
+{
+    struct stat file = {};
+    const off_t begin = decompressor_ ? -1 : lseek(file_, 0, SEEK_CUR) - static_cast<off_t>(bytes_before);
+    if (begin < 0 || fstat(file_, &file) != 0 || file.st_size - begin < static_cast<off_t>(usual_size)) {
+        return std::nullopt;
+    }
+    std::array<char, std::size_t{1} << 12U> piece{};
+    ssize_t count = 1;
+    for (std::size_t size = usual_size; count > 0 && size < usual_size + longest_line;) {
+        count = pread(file_, piece.data(), piece.size(), begin + static_cast<off_t>(size));
+        const std::string_view read(piece.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+        const std::size_t end = read.find('\n');
+        if (end != std::string_view::npos) {
+            size += end + 1;
+            lseek(file_, begin + static_cast<off_t>(size), SEEK_SET);
+            return FilePart{file_, begin, size};
+        }
+        size += read.size();
+    }
+    return std::nullopt;
 }
 
 std::size_t ByteSource::read(std::span<char> room)

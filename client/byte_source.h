@@ -2,8 +2,10 @@
 #pragma once
 
 #include "client/compressed/format.h"
+#include "client/file_part.h"
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -30,6 +32,11 @@ public:
 
     /// Reads some bytes, at most as many as there is room; 0 at the end of the file.
     std::size_t read(std::span<char> room);
+
+    /// Leaves whole lines to somebody else who reads them at their place in the file: those from so many bytes before
+    /// what would be read next, up to the end of the line that goes beyond the usual size by less than the longest
+    /// line. None where there are not so many bytes, or where bytes have no place.
+    std::optional<FilePart> skip_lines(std::size_t bytes_before, std::size_t usual_size, std::size_t longest_line);
 
     /// Whether there is something to read, or the end, without waiting longer than anybody notices.
     [[nodiscard]] bool is_ready() const;

@@ -10,16 +10,20 @@ namespace l2fib
 using Kind = Block::Part::Kind;
 
 constexpr std::size_t shortest_read = std::size_t{1} << 16U;
-constexpr const char *too_long = "line too long";
 
 bool is_blank(std::string_view line)
 {
     return line.find_first_not_of(" \t\r") == std::string_view::npos;
 }
 
+std::string place_text(const std::string &file, std::size_t line)
+{
+    return file + ":" + std::to_string(line);
+}
+
 CaptureLine &read_capture(CaptureReader &reader, std::string_view line)
 {
-    return line.size() > Block::longest_line ? reader.refuse(too_long) : reader.read(line);
+    return line.size() > Block::longest_line ? reader.refuse(line_too_long) : reader.read(line);
 }
 
 CaptureBlocks::CaptureBlocks(const std::vector<std::string> &files) : files_(files) {}
@@ -28,6 +32,7 @@ bool CaptureBlocks::fill(Block &block)
 {
     block.part_count = 0;
     block.size = 0;
+    block.unread.descriptor = -1;
     while (file_ < files_.size() && !block.is_full()) {
         if (!source_) {
             source_.emplace(files_[file_], Compressed::by_magic);
@@ -36,12 +41,30 @@ bool CaptureBlocks::fill(Block &block)
         if (block.part_count != 0 && !source_->is_ready()) {
             break; // what is there is shown before more is waited for
         }
+        if (leave_lines(block)) {
+            break;
+        }
         is_in_long_line_ ? skip_long_line(block) : add_lines(block);
         if (is_at_end_) {
             end_file(block);
         }
     }
     return block.part_count != 0;
+}
+
+/// Of a plain file whose first capture is found, a block may have lines that were not read.
+bool CaptureBlocks::leave_lines(Block &block)
+{
+    if (block.part_count != 0 || no_captures_ || is_in_long_line_) {
+        return false;
+    }
+    const auto part = source_->skip_lines(begun_.size(), Block::usual_size, Block::longest_line);
+    if (!part) {
+        return false;
+    }
+    begun_.clear();
+    block.leave(file_, *part);
+    return true;
 }
 
 /// Adds the lines that there is room for and that are there, one at least.
@@ -69,8 +92,8 @@ void CaptureBlocks::add_lines(Block &block)
     block.size = begin + whole;
     if (no_captures_) {
         find_first_capture(block, begin);
-    } else {
-        add_text(block, begin, block.size);
+    } else if (whole != 0) {
+        add_part(block, {Kind::lines, file_, 0, begin, whole});
     }
 }
 
@@ -86,13 +109,13 @@ void CaptureBlocks::skip_long_line(Block &block)
     }
     is_in_long_line_ = false;
     begun_ = is_at_end_ ? "" : read.substr(end + 1);
-    if (no_captures_) {
-        refuse({}, too_long);
-    } else {
-        add_message(block, place().text() + ": " + too_long);
+    if (!no_captures_) {
+        add_part(block, {Kind::too_long, file_, 0, block.size, 0});
+        return;
     }
+    refuse({}, line_too_long);
     ++line_;
-    if (no_captures_ && no_captures_->are_enough()) {
+    if (no_captures_->are_enough()) {
         is_at_end_ = true;
     }
 }
@@ -116,20 +139,10 @@ void CaptureBlocks::add_messages(Block &block, const std::vector<std::string> &m
     }
 }
 
-/// Adds a text of the block as lines of the file.
-void CaptureBlocks::add_text(Block &block, std::size_t begin, std::size_t end)
-{
-    const std::string_view text(&block.text[begin], end - begin);
-    if (!text.empty()) {
-        add_part(block, {Kind::lines, file_, line_, begin, text.size()});
-        for_each_line(text, [this](std::string_view /*line*/) { return ++line_ != 0; });
-    }
-}
-
 /// A line that is no capture, before the first one.
 void CaptureBlocks::refuse(std::string_view line, const std::string &why)
 {
-    no_captures_->add(line, place().text() + ": " + why);
+    no_captures_->add(line, place_text(files_[file_], line_) + ": " + why);
 }
 
 /// Leaves out what comes before the file's first capture. Of a file that is no file of captures, that is all of it.
@@ -152,13 +165,13 @@ void CaptureBlocks::find_first_capture(Block &block, std::size_t begin)
         return !no_captures_->are_enough();
     });
     if (is_found) {
-        const std::size_t end = block.size;
-        if (end > Block::usual_size) {
+        const Block::Part rest{Kind::lines, file_, line_, begin + first, block.size - begin - first};
+        if (block.size > Block::usual_size) {
             reader_ = {}; // which would keep as much memory as the largest capture takes
         }
         add_messages(block, no_captures_->messages());
         no_captures_.reset();
-        add_text(block, begin + first, end);
+        add_part(block, rest);
     } else {
         is_at_end_ = is_at_end_ || no_captures_->are_enough();
         block.size = begin;

@@ -63,8 +63,10 @@ void CaptureFiles::read()
 {
     CaptureBlocks blocks(files_);
     SharedBlocks memory(1);
+    LineCounter counter(1);
     while (!is_output_lost() && blocks.fill(memory[0])) {
-        step_progress(run(memory[0]));
+        memory[0].fetch();
+        step_progress(run(memory[0], counter));
     }
     clear_progress();
 }
@@ -76,22 +78,38 @@ void CaptureFiles::read(unsigned jobs, BlockWork &work, const MakeWork &twin)
     clear_progress();
 }
 
-std::size_t CaptureFiles::run(const Block &block)
+std::size_t CaptureFiles::run(const Block &block, LineCounter &counter)
 {
     std::size_t lines = 0;
     for (const Block::Part &part : block.used_parts()) {
-        const std::string_view text = block.text_of(part);
-        if (part.kind == Block::Part::Kind::message) {
-            report(std::string(text));
-            continue;
-        }
-        CapturePlace place{files_[part.file], part.line};
+        lines += run(part, block.text_of(part), counter);
+    }
+    return lines;
+}
+
+std::size_t CaptureFiles::run(const Block::Part &part, std::string_view text, LineCounter &counter)
+{
+    const CapturePlace place{files_[part.file], counter};
+    std::size_t lines = 0;
+    if (part.line != 0) {
+        counter.begin(part.line);
+    }
+    switch (part.kind) {
+    case Block::Part::Kind::lines:
         for_each_line(text, [&](std::string_view line) {
             read_line(line, place);
-            ++place.line;
+            counter.pass();
             ++lines;
             return !is_output_lost();
         });
+        break;
+    case Block::Part::Kind::too_long:
+        report(place.text() + ": " + line_too_long);
+        counter.pass();
+        ++lines;
+        break;
+    case Block::Part::Kind::failure: report(place.file + ": " + std::string(text)); break;
+    case Block::Part::Kind::message: report(std::string(text)); break;
     }
     return lines;
 }

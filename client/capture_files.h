@@ -27,6 +27,15 @@ struct Selection {
     [[nodiscard]] std::string text() const;
 };
 
+/// Where the capture at hand is from.
+struct CapturePlace {
+    const std::string &file;
+    LineCounter &counter;
+
+    [[nodiscard]] std::size_t line() const { return counter.number(); }
+    [[nodiscard]] std::string text() const { return place_text(file, line()); }
+};
+
 /// A run over files. What is wrong with a line is reported on standard error, and the rest goes on.
 class CaptureFiles
 {
@@ -46,7 +55,7 @@ public:
     void read(unsigned jobs, BlockWork &work, const MakeWork &twin);
 
     /// What the work has to do with them.
-    std::size_t run(const Block &block);
+    std::size_t run(const Block &block, LineCounter &counter);
     void hand_over(Parcel &parcel);
     void take_over(OpenedParcel &parcel);
 
@@ -57,6 +66,7 @@ public:
     [[nodiscard]] ExitStatus status() const { return counts_.status; }
 
 private:
+    std::size_t run(const Block::Part &part, std::string_view text, LineCounter &counter);
     void read_line(std::string_view line, const CapturePlace &place);
     void report(const std::string &what);
 

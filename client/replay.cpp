@@ -99,7 +99,7 @@ public:
 
     ExitStatus run();
 
-    std::size_t run(const Block &block) override { return files_.run(block); }
+    std::size_t run(const Block &block, LineCounter &counter) override { return files_.run(block, counter); }
     void flush() override { renderer_.flush(); }
     void hand_over(Parcel &parcel) override;
     void take_over(OpenedParcel &parcel) override;
@@ -144,7 +144,7 @@ bool Replay::show(Capture &capture, const CapturePlace &place)
         return true;
     }
     print_heading(capture, place);
-    const Origin origin{place.file, place.line};
+    const Origin origin{place.file, options_.heading ? place.line() : 0};
     const std::uint32_t status = renderer_.show(capture, options_.heading ? &origin : nullptr);
     if (status != 0 && options_.rendering.json) {
         note(view_failed); // the line says how

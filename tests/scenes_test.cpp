@@ -175,8 +175,8 @@ TEST(Scenes, NpsOfAVplsAc)
     for (const auto &side : sides) {
         for (const std::uint64_t np_count : std::initializer_list<std::uint64_t>{1, 2, 3, 8}) {
             Ladder ladder;
-            for (std::uint64_t requested = 0; requested <= 11; ++requested) {
-                const Values values = {{"block.np_count.count", np_count}, {"ac.context.requested_np", requested}};
+            for (std::size_t requested = 0; requested <= 11; ++requested) {
+                const Values values = {{"block.np_count.count", np_count}, {"ac.context.requested_np", std::uint64_t{requested}}};
                 const GuardedBytes data(side.layout.filled_with(vpls + values));
                 const Shown result = shown([&] { return detail(L2FIB_OBJTYPE_AC, side.direction)(data.data(), data.size()); });
                 std::string nps;

@@ -45,7 +45,7 @@ std::uint32_t AcrossObjects::number_of(const std::string &file)
 void AcrossObjects::add(const Capture &capture, std::optional<std::uint32_t> xid, const CheckedView &view,
                         const CapturePlace &place)
 {
-    const Source source{number_of(place.file), static_cast<std::uint32_t>(place.line)};
+    const Source source{number_of(place.file), static_cast<std::uint32_t>(place.line())};
     const std::string_view object = capture.object->name;
     if ((object == "ac" || object == "pw") && xid) {
         add_port(capture, *xid, view, source);

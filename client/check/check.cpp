@@ -96,7 +96,7 @@ public:
 
     ExitStatus run();
 
-    std::size_t run(const Block &block) override { return files_.run(block); }
+    std::size_t run(const Block &block, LineCounter &counter) override { return files_.run(block, counter); }
     void flush() override { report_.flush(); }
     void hand_over(Parcel &parcel) override;
     void take_over(OpenedParcel &parcel) override;
@@ -125,7 +125,7 @@ bool Check::take(Capture &capture, const CapturePlace &place)
     const std::uint32_t status = record_view(capture, tree_);
     CheckedObject object;
     object.file = place.file;
-    object.line = place.line;
+    object.line = place.line();
     object.kind = capture.object->name;
     object.name = name_of(capture, xid, tree_);
     object.unchecked = reason_not_to_check(tree_, status);

@@ -23,7 +23,7 @@ void ObjectArticle::begin(Capture &capture, const CapturePlace &place, std::size
     view_.begin(tree_, received_, capture.byte_order->order);
 
     object_.file = place.file;
-    object_.line = place.line;
+    object_.line = place.line();
     object_.kind = capture.object->name;
     object_.name = name_of(capture, xid_, tree_);
     object_.unchecked = reason_not_to_check(tree_, status);

@@ -122,7 +122,7 @@ bool Page::take(Capture &capture, const CapturePlace &place)
     if (files_begun_.empty() || files_begun_.back().first != place.file) {
         files_begun_.emplace_back(place.file, lines_.size());
     }
-    lines_.push_back(place.line);
+    lines_.push_back(place.line());
     article_.begin(capture, place, lines_.size());
     disagreeing_ += article_.object().disagrees() ? 1 : 0;
     if (!article_.object().unchecked.empty()) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "client/parallel/block.h"
+#include "client/parallel/line_counter.h"
 #include "client/parallel/parcel.h"
 
 #include <cstddef>
@@ -18,8 +19,9 @@ public:
     BlockWork(const BlockWork &) = delete;
     BlockWork &operator=(const BlockWork &) = delete;
 
-    /// Does a block: what it prints is on standard output or waits for `flush`. Returns how many lines it has.
-    virtual std::size_t run(const Block &block) = 0;
+    /// Does a block, and counts its lines: what it prints is on standard output or waits for `flush`. Returns how many
+    /// lines it has.
+    virtual std::size_t run(const Block &block, LineCounter &counter) = 0;
     virtual void flush() = 0;
 
     /// What was done since the last time, beside what is printed.

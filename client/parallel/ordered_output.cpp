@@ -3,7 +3,6 @@
 #include "client/diagnostics.h"
 
 #include <cerrno>
-#include <sys/socket.h>
 #include <sys/types.h>
 #include <system_error>
 #include <unistd.h>
@@ -12,21 +11,7 @@
 namespace l2fib
 {
 
-bool RingPlace::wait(Turn &turn) const
-{
-    ssize_t size = 0;
-    do {
-        size = recv(before, &turn, sizeof turn, 0);
-    } while (size < 0 && errno == EINTR);
-    return size == static_cast<ssize_t>(sizeof turn);
-}
-
-void RingPlace::pass(const Turn &turn) const
-{
-    send(after, &turn, sizeof turn, MSG_NOSIGNAL); // who is gone has had its last turn, or is missed by the next one
-}
-
-OrderedOutput::OrderedOutput(RingPlace place, const char *separator)
+OrderedOutput::OrderedOutput(RingPlace &place, const char *separator)
     : place_(place), separator_(separator), screen_(stdout)
 {
     cookie_io_functions_t functions{};
@@ -76,9 +61,7 @@ void OrderedOutput::take_turn()
     if (has_turn_) {
         return;
     }
-    if (!place_.wait(turn_)) {
-        _exit(unusable); // the one before is gone, and this one's text has no place any more
-    }
+    turn_ = place_.turn();
     has_turn_ = true;
     set_in_screen_line(turn_.is_in_line);
     progress_state() = turn_.progress;
@@ -126,7 +109,7 @@ void OrderedOutput::end_block(std::size_t lines)
 void OrderedOutput::pass_turn()
 {
     has_turn_ = false;
-    place_.pass(turn_);
+    place_.pass_turn(turn_);
 }
 
 } // namespace l2fib

@@ -18,7 +18,7 @@ namespace l2fib
 class OrderedOutput : private MessageHolder
 {
 public:
-    OrderedOutput(RingPlace place, const char *separator);
+    OrderedOutput(RingPlace &place, const char *separator);
     ~OrderedOutput() override;
 
     /// Writes what a block of so many lines has printed. Afterwards it is this process's turn still.
@@ -44,9 +44,9 @@ private:
     static constexpr std::size_t most_held = std::size_t{4} << 20U;
     static constexpr std::size_t buffer_size = most_held;
 
-    RingPlace place_;
+    RingPlace &place_;
     const char *separator_;
-    std::unique_ptr<char[]> buffer_ = std::make_unique<char[]>(buffer_size);
+    std::unique_ptr<char[]> buffer_ = std::make_unique_for_overwrite<char[]>(buffer_size);
     std::FILE *screen_;
     std::vector<Piece> held_;
     std::size_t held_size_ = 0;

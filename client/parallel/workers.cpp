@@ -2,6 +2,7 @@
 
 #include "client/diagnostics.h"
 #include "client/parallel/ordered_output.h"
+#include "client/parallel/socket.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -38,89 +39,49 @@ unsigned usual_jobs()
     return static_cast<unsigned>(CPU_COUNT(&processors));
 }
 
-/// A socket, closed at the end.
-class Descriptor
-{
-public:
-    explicit Descriptor(int number = -1) : number_(number) {}
-    Descriptor(Descriptor &&other) noexcept : number_(other.release()) {}
-    Descriptor &operator=(Descriptor &&other) noexcept
-    {
-        std::swap(number_, other.number_);
-        return *this;
-    }
-    ~Descriptor()
-    {
-        if (number_ >= 0) {
-            close(number_);
-        }
-    }
-
-    [[nodiscard]] int get() const { return number_; }
-    int release() { return std::exchange(number_, -1); }
-
-private:
-    int number_;
-};
-
-struct SocketPair {
-    explicit SocketPair(int type)
-    {
-        int ends[2] = {-1, -1};
-        if (socketpair(AF_UNIX, type | SOCK_CLOEXEC, 0, ends) != 0) {
-            throw std::system_error(errno, std::generic_category(), "sockets of other processes");
-        }
-        near = Descriptor(ends[0]);
-        far = Descriptor(ends[1]);
-    }
-
-    Descriptor near;
-    Descriptor far;
-};
-
-/// False when the other end is gone.
-static bool send_all(int socket, std::string_view bytes)
-{
-    while (!bytes.empty()) {
-        const ssize_t size = send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        if (size < 0 && errno != EINTR) {
-            return false;
-        }
-        bytes.remove_prefix(size < 0 ? 0 : static_cast<std::size_t>(size));
-    }
-    return true;
-}
-
-static bool receive_all(int socket, void *bytes, std::size_t size)
-{
-    ssize_t received = 0;
-    do {
-        received = recv(socket, bytes, size, MSG_WAITALL);
-    } while (received < 0 && errno == EINTR);
-    return received == static_cast<ssize_t>(size);
-}
-
-template <class Value>
-static std::string_view bytes_of(const Value &value)
-{
-    return {reinterpret_cast<const char *>(&value), sizeof value};
-}
-
 static void send_result(int socket, Result result, const std::string &parcel)
 {
     result.size = parcel.size();
-    if (!send_all(socket, bytes_of(result)) || !send_all(socket, parcel)) {
+    const std::string message = std::string(bytes_of(result)) + parcel; // as one, which wakes the other end once
+    if (!send_all(socket, message)) {
         _exit(unusable); // nobody is there any more
     }
 }
 
+/// Who prints where lines are from has to know how many come before the block: they are counted ahead then, and nobody
+/// waits until they are done.
+static std::size_t run_block(const Block &block, RingPlace &place, BlockWork &work)
+{
+    bool is_passed = false;
+    LineCounter counter([&] {
+        const std::size_t line = place.line();
+        place.pass_line(block.line_after(line));
+        is_passed = true;
+        return line;
+    });
+    const std::size_t lines = work.run(block, counter);
+    if (!is_passed) {
+        counter.set_first(place.line());
+        place.pass_line(counter.number());
+    }
+    return lines;
+}
+
 /// What a worker does as long as it is given blocks.
-static void do_all(int socket, OrderedOutput &output, SharedBlocks &blocks, const MakeWork &twin)
+static void do_all(int socket, RingPlace &place, OrderedOutput &output, SharedBlocks &blocks, const MakeWork &twin)
 {
     const std::unique_ptr<BlockWork> work = twin();
+    SharedBlocks own_memory(1); // which stays in the processor's cache
+    Block &own = own_memory[0];
     Parcel parcel;
-    for (std::size_t index = 0; receive_all(socket, &index, sizeof index);) {
-        const std::size_t lines = work->run(blocks[index]);
+    for (Order order; receive_order(socket, order);) {
+        const Block &shared = blocks[order.block];
+        const bool is_unread = order.file.get() >= 0;
+        if (is_unread) {
+            own.leave(shared.parts[0].file, {order.file.get(), shared.unread.offset, shared.unread.size});
+            own.fetch();
+        }
+        const std::size_t lines = run_block(is_unread ? own : shared, place, *work);
         work->flush();
         output.end_block(lines);
         parcel.clear();
@@ -136,7 +97,7 @@ static void do_all(int socket, OrderedOutput &output, SharedBlocks &blocks, cons
     OrderedOutput output(place, separator);
     std::string failure;
     try {
-        do_all(socket, output, blocks, twin);
+        do_all(socket, place, output, blocks, twin);
         _exit(shown);
     } catch (const std::bad_alloc &) {
         failure = "out of memory";
@@ -164,7 +125,7 @@ void Workers::stop()
 }
 
 /// Forks a worker. It has only the ends of its own sockets, so that its neighbours notice when it is gone.
-bool Workers::fork_one(RingPlace place, std::initializer_list<int> of_others)
+bool Workers::fork_one(const RingPlace &place, std::initializer_list<int> of_others)
 {
     SocketPair own(SOCK_STREAM);
     const pid_t parent = getpid();
@@ -196,7 +157,9 @@ try {
     work_.flush();
     std::fflush(stdout); // or each of them would print it
     SocketPair first(SOCK_SEQPACKET);
-    RingPlace{-1, first.near.get()}.pass({work_.has_text(), is_in_screen_line(), 0, progress_state()});
+    RingPlace begin(-1, first.near.get());
+    begin.pass_line(counter_.number());
+    begin.pass_turn({work_.has_text(), is_in_screen_line(), 0, progress_state()});
     Descriptor before = std::move(first.far);
     for (unsigned number = 1; number < count_; ++number) {
         SocketPair next(SOCK_SEQPACKET);
@@ -218,9 +181,10 @@ Block &Workers::next_block()
     return blocks_[next_index()];
 }
 
-void Workers::do_here(const Block &block)
+void Workers::do_here(Block &block)
 {
-    step_progress(work_.run(block));
+    block.fetch();
+    step_progress(work_.run(block, counter_));
     done_here_ += block.size;
 }
 
@@ -234,7 +198,7 @@ void Workers::do_block()
     if (workers_.empty()) {
         return do_here(blocks_[index]);
     }
-    if (!send_all(workers_[started_ % count_].socket, bytes_of(index))) {
+    if (!send_order(workers_[started_ % count_].socket, index, blocks_[index].unread.descriptor)) {
         report_death();
     }
     ++started_;

@@ -1,6 +1,6 @@
 // Has several processes do the blocks of the input.
 //
-// One process reads the input into blocks and hands them out in turns. Each of the others does its blocks, and prints
+// One process cuts the input into blocks and hands them out in turns. Each of the others does its blocks, and prints
 // what comes of them when the one before has printed: the output is that of one process. They are processes and not
 // threads because standard output, the time zone and the router that views ask are of the whole process.
 #pragma once
@@ -54,9 +54,9 @@ private:
     };
 
     [[nodiscard]] std::size_t next_index() const { return started_ % (blocks_of_each * count_); }
-    void do_here(const Block &block);
+    void do_here(Block &block);
     bool fork_all();
-    bool fork_one(RingPlace place, std::initializer_list<int> of_others);
+    bool fork_one(const RingPlace &place, std::initializer_list<int> of_others);
     void take_result();
     [[noreturn]] void report_death();
     void stop();
@@ -66,6 +66,7 @@ private:
     MakeWork twin_;
     SharedBlocks blocks_;
     std::vector<Worker> workers_;
+    LineCounter counter_{1};    ///< of what is done here
     std::size_t done_here_ = 0; ///< bytes
     std::size_t started_ = 0;   ///< blocks of the workers
     std::size_t done_ = 0;

@@ -98,11 +98,12 @@ TEST(Check, FindsEachPlantedFaultOnce)
 TEST(Check, FindsEachFaultAcrossObjectsOnce)
 {
     const std::string file = "planted";
-    std::size_t line = 0;
+    LineCounter lines(1);
     AcrossObjects across;
     for (const PlantedFault &fault : planted_faults()) {
         Looked looked(planted(fault));
-        across.add(planted(fault), planted(fault).object->xid(looked.received), looked.view, {file, ++line});
+        across.add(planted(fault), planted(fault).object->xid(looked.received), looked.view, {file, lines});
+        lines.pass();
     }
     std::vector<std::string> found;
     for (const Finding &finding : across.findings()) {

@@ -2,6 +2,7 @@
 #include "client/capture_blocks.h"
 
 #include <cstdlib>
+#include <fcntl.h>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -29,18 +30,20 @@ private:
 
 using Lines = std::vector<std::pair<std::size_t, std::string>>;
 
-/// The lines of a file by number, and its messages as lines of number 0. Where a block ends, a line does.
+/// The lines of a file by number, of those that are too long no more than that. Where a block ends, a line does.
 static Lines lines_of(const std::string &path)
 {
     const std::vector<std::string> files{path};
     CaptureBlocks blocks(files);
     SharedBlocks memory(1);
     Lines lines;
+    std::size_t number = 0;
     while (blocks.fill(memory[0])) {
+        memory[0].fetch();
         for (const Block::Part &part : memory[0].used_parts()) {
-            std::size_t number = part.line;
-            if (part.kind == Block::Part::Kind::message) {
-                lines.emplace_back(0, memory[0].text_of(part).substr(path.size()));
+            number = part.line != 0 ? part.line : number;
+            if (part.kind == Block::Part::Kind::too_long) {
+                lines.emplace_back(number++, "too long");
                 continue;
             }
             for_each_line(memory[0].text_of(part), [&](std::string_view line) {
@@ -71,6 +74,31 @@ TEST(CaptureBlocks, LinesWhereverABlockEnds)
     }
 }
 
+/// What comes of 100 bytes that were left in an open file.
+static Block &fetched(Block &block, const char *path)
+{
+    const int file = open(path, O_RDONLY);
+    block.leave(0, {file, 2, 100});
+    block.fetch();
+    close(file);
+    return block;
+}
+
+TEST(CaptureBlocks, LinesThatCannotBeFetched)
+{
+    SharedBlocks memory(1);
+    const TemporaryFile file("0\n1\n2");
+    const Block &shortened = fetched(memory[0], file.path().c_str());
+    ASSERT_EQ(shortened.part_count, 1U);
+    EXPECT_EQ(shortened.text_of(shortened.parts[0]), "1\n2");
+
+    const Block &unreadable = fetched(memory[0], "/");
+    ASSERT_EQ(unreadable.part_count, 2U);
+    EXPECT_EQ(unreadable.text_of(unreadable.parts[0]), "");
+    EXPECT_EQ(unreadable.parts[1].kind, Block::Part::Kind::failure);
+    EXPECT_EQ(unreadable.text_of(unreadable.parts[1]), "Is a directory");
+}
+
 TEST(CaptureBlocks, ALineThatIsTooLongIsSkipped)
 {
     const std::string longest(Block::longest_line, 'x');
@@ -81,7 +109,7 @@ TEST(CaptureBlocks, ALineThatIsTooLongIsSkipped)
     // One more character fits into a block, where whoever reads the line refuses it.
     EXPECT_EQ(lines[2].second.substr(0, 20), longest.substr(0, 20));
     EXPECT_EQ(lines[3], std::pair(std::size_t{4}, std::string("last")));
-    EXPECT_EQ(lines[4], std::pair(std::size_t{0}, std::string(":5: line too long")));
+    EXPECT_EQ(lines[4], std::pair(std::size_t{5}, std::string("too long")));
 }
 
 } // namespace l2fib

@@ -23,13 +23,13 @@ fail() {
 # Files of several blocks of the input: sound ones, such with broken lines at the beginning, in the middle and at the
 # end, lines longer than a block and than any capture, a late first capture, none at all, no end of the last line.
 cat "$source"/examples/*.jsonl >all
-for _ in 1 2 3; do cat all "$source/examples/faults/planted.jsonl"; done >sound
+for _ in 1 2 3 4 5 6; do cat all "$source/examples/faults/planted.jsonl"; done >sound
 perl -e 'print "{\"object\":\"ac\",\"remark\":\"", "x" x 3000000, "\",\"show_data\":\"00\"}\n"' >long
 perl -e 'print "x" x 9000000, "\n"' >too_long
 printf 'nonsense\n{"object":"ac"}\n\n \n' >broken
 cat broken sound broken too_long all long broken all sound broken >mixed
 printf '{"object":"ac","show_data":"0003"}' >>mixed
-perl -e 'print "\n" x 900000, "nonsense\n" x 9, "\n" x 900000' | cat - sound >late
+perl -e 'print "\n" x 1200000, "nonsense\n" x 9, "\n" x 1200000' | cat - sound >late
 perl -e 'print "nonsense\n" x 20' | cat - sound >none
 cat too_long too_long sound >after_too_long
 : >empty
@@ -63,6 +63,13 @@ same check --json sound
 [ "$(wc -c <both.1)" -gt 100000 ] || fail "check --json: no more than $(wc -c <both.1) bytes to be compared"
 same replay --heading '<' mixed
 same '<' mixed replay --heading
+
+# Standard input that somebody has read some of.
+for jobs in 1 $several; do
+    { read -r _ && "$show" replay --heading --jobs "$jobs"; } <sound >"rest.$jobs"
+    cmp rest.1 "rest.$jobs" || fail "the rest of standard input, --jobs $jobs"
+done
+[ "$(grep -c '^== -:' rest.1)" -eq "$(($(wc -l <sound) - 1))" ] || fail "the rest of standard input: $(grep -c == rest.1)"
 gzip -c mixed >mixed.gz
 same '<' mixed.gz replay
 head -c 300000 mixed.gz >short.gz
@@ -110,7 +117,7 @@ exec 8<>sink
 for whose in worker first; do
     "$show" replay --jobs 3 longer >sink 2>stderr &
     first=$!
-    head -c 200000 <&8 >/dev/null
+    head -c 600000 <&8 >/dev/null
     tries=0
     until [ "$(pgrep -c -P $first)" -eq 3 ] || [ $tries -eq 100 ]; do
         tries=$((tries + 1))
