@@ -16,64 +16,33 @@ bool CheckedObject::disagrees() const
                        [](const Finding &finding) { return finding.level == Level::error; });
 }
 
-static void put(Parcel &parcel, const Finding &finding)
+template <MaybeConst<Statement> Said>
+void hand_members(Said &statement, const auto &function)
 {
-    parcel.put(finding.level);
-    parcel.put(finding.what);
-    parcel.put(finding.who);
-    parcel.put(finding.meaning);
-    parcel.put(finding.statements.size());
-    for (const Statement &statement : finding.statements) {
-        parcel.put(statement.parties);
-        parcel.put(statement.text);
-        parcel.put(statement.number);
-        parcel.put(statement.is_odd);
-        parcel.put(statement.path);
-        parcel.put(statement.bytes);
-    }
+    function(statement.parties, statement.text, statement.number, statement.is_odd, statement.path, statement.bytes);
 }
 
-static void take(OpenedParcel &parcel, Finding &finding)
+template <MaybeConst<Finding> Found>
+void hand_members(Found &finding, const auto &function)
 {
-    parcel.take(finding.level);
-    parcel.take(finding.what);
-    parcel.take(finding.who);
-    parcel.take(finding.meaning);
-    finding.statements.resize(parcel.taken<std::size_t>());
-    for (Statement &statement : finding.statements) {
-        parcel.take(statement.parties);
-        parcel.take(statement.text);
-        parcel.take(statement.number);
-        parcel.take(statement.is_odd);
-        parcel.take(statement.path);
-        parcel.take(statement.bytes);
-    }
+    function(finding.level, finding.what, finding.who, finding.meaning, finding.statements);
+}
+
+template <MaybeConst<CheckedObject> Object>
+void hand_members(Object &object, const auto &function)
+{
+    // The kind is where it is in every process.
+    function(object.file, object.line, object.kind, object.name, object.unchecked, object.findings);
 }
 
 void CheckedObject::hand_over(Parcel &parcel) const
 {
-    parcel.put(file);
-    parcel.put(line);
-    parcel.put(kind); // which is where it is in every process
-    parcel.put(name);
-    parcel.put(unchecked);
-    parcel.put(findings.size());
-    for (const Finding &finding : findings) {
-        put(parcel, finding);
-    }
+    parcel.put(*this);
 }
 
 void CheckedObject::take_over(OpenedParcel &parcel)
 {
-    parcel.take(file);
-    parcel.take(line);
-    parcel.take(kind);
-    parcel.take(name);
-    parcel.take(unchecked);
-    findings.resize(parcel.taken<std::size_t>());
-    for (Finding &finding : findings) {
-        take(parcel, finding);
-    }
+    parcel.take(*this);
 }
 
 /// The text of the first value of a path; empty when the view has none.

@@ -1,6 +1,7 @@
 // What one process has to tell another that it was forked from, or that was forked from it.
 #pragma once
 
+#include <concepts>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -10,9 +11,29 @@
 namespace l2fib
 {
 
+struct AnyMembers {
+    void operator()(auto &.../*members*/) const {}
+};
+
+/// What goes piece by piece names its members in one place, for both ways: `hand_members(value, function)` calls the
+/// function with all of them.
+template <class Value>
+concept HasMembers = requires(Value &value)
+{
+    hand_members(value, AnyMembers{});
+};
+
+template <class Value, class Type>
+concept MaybeConst = std::same_as<std::remove_const_t<Value>, Type>;
+
 class Parcel
 {
 public:
+    template <HasMembers Value>
+    void put(const Value &value)
+    {
+        hand_members(value, [this](const auto &...members) { (this->put(members), ...); });
+    }
     template <class Value>
     void put(const Value &value) requires std::is_trivially_copyable_v<Value>
     {
@@ -45,6 +66,11 @@ class OpenedParcel
 public:
     explicit OpenedParcel(std::string_view bytes) : bytes_(bytes) {}
 
+    template <HasMembers Value>
+    void take(Value &value)
+    {
+        hand_members(value, [this](auto &...members) { (this->take(members), ...); });
+    }
     template <class Value>
     void take(Value &value) requires std::is_trivially_copyable_v<Value>
     {
