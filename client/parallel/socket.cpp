@@ -65,10 +65,9 @@ bool send_order(int socket, std::size_t block, int file)
 {
     OrderMessage message;
     message.block = block;
-    if (file >= 0) {
-        cmsghdr &first = *CMSG_FIRSTHDR(&message.header);
-        first = {CMSG_LEN(sizeof file), SOL_SOCKET, SCM_RIGHTS};
-        std::memcpy(CMSG_DATA(&first), &file, sizeof file);
+    if (cmsghdr *first = CMSG_FIRSTHDR(&message.header); first != nullptr && file >= 0) {
+        *first = {CMSG_LEN(sizeof file), SOL_SOCKET, SCM_RIGHTS};
+        std::memcpy(CMSG_DATA(first), &file, sizeof file);
     } else {
         message.header.msg_controllen = 0;
     }
