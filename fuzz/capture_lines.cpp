@@ -15,7 +15,7 @@ namespace l2fib
 using Random = std::minstd_rand;
 using Choices = std::vector<std::string>;
 
-struct Member {
+struct VariedMember {
     Choices names; ///< the same one, written in several ways
     Choices values;
     unsigned object_once_in = 32; ///< an object in their place
@@ -23,7 +23,7 @@ struct Member {
 
 static const Choices numbers = {"0", "1", "010", "4294967295", "4294967296", "\"0x1e1000\"", "\"010\"", "\"0x\""};
 
-static const Member members[] = {
+static const VariedMember members[] = {
     {{"object", "obj\\u0065ct"},
      {"\"ac\"", "\"pw\"", "\"bridge\"", "\"bridge-port\"", "\"mac\"", "\"nhop\"", "\"resources\"", "\"hal-summary\""}},
     {{"show_data", "show_data", "show\\u005fdata"},
@@ -71,7 +71,7 @@ static bool happens(unsigned once_in, Random &random)
 
 static std::string compose_object(bool is_capture, unsigned depth, Random &random);
 
-static std::string compose_member(const Member &member, unsigned depth, Random &random)
+static std::string compose_member(const VariedMember &member, unsigned depth, Random &random)
 {
     constexpr unsigned deepest = 3;
     std::string value = one_of(happens(8, random) ? odd_values : member.values, random);
@@ -92,7 +92,7 @@ static std::string compose_object(bool is_capture, unsigned depth, Random &rando
     }
     for (std::size_t more = random() % 4; more != 0; --more) {
         const bool is_passed_over = happens(4, random);
-        const Member &member = is_passed_over ? *std::rbegin(members) : one_of(members, random);
+        const VariedMember &member = is_passed_over ? *std::rbegin(members) : one_of(members, random);
         parts.push_back(compose_member(member, depth, random));
     }
     std::shuffle(parts.begin(), parts.end(), random);

@@ -56,10 +56,9 @@ std::optional<Level> NpTable::level_of(std::size_t row) const
 {
     std::optional<Level> worst;
     for (std::size_t np = 0; np < view_.nps() && links_.has_marks(); ++np) {
-        const TreeValue *value = view_.cell(row, np);
-        const auto level = value == nullptr ? std::nullopt : links_.level_of(view_.tree().path_of(*value));
-        if (level && (!worst || *level < *worst)) {
-            worst = level;
+        if (const TreeValue *value = view_.cell(row, np)) {
+            const std::optional<Level> level = links_.level_of(view_.tree().path_of(*value));
+            worst = level && (!worst || *level < *worst) ? level : worst;
         }
     }
     return worst;

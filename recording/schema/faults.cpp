@@ -90,20 +90,20 @@ static std::uint64_t low_bytes(std::uint64_t number, std::size_t count)
     return number & ~std::uint64_t{0} >> 8 * (sizeof number - count);
 }
 
-struct ByteRange {
+struct ValuePlace {
     std::size_t offset;
     std::size_t size;
 };
 
 /// The bytes that --bytes has values at, by the values' paths.
-using Places = std::unordered_multimap<std::string, ByteRange>;
+using Places = std::unordered_multimap<std::string, ValuePlace>;
 
 static Places places_of_values(const Capture &capture)
 {
     Places places;
     for_each_byte_run(capture, [&](const recording::ByteRun &run) {
         for (const recording::ShownValue &shown : run.values) {
-            places.emplace(shown.path, ByteRange{run.offset, run.size});
+            places.emplace(shown.path, ValuePlace{run.offset, run.size});
         }
     });
     return places;

@@ -22,13 +22,13 @@ public:
     GuardedBytes &operator=(const GuardedBytes &) = delete;
 
     [[nodiscard]] std::uint8_t *data() const { return data_; }
-    [[nodiscard]] std::uint64_t size() const { return size_; }
+    [[nodiscard]] std::size_t size() const { return size_; }
 
 private:
     void *mapping_;
     std::size_t mapped_;
     std::uint8_t *data_;
-    std::uint64_t size_;
+    std::size_t size_;
 };
 
 /// What came of showing an object.
