@@ -55,6 +55,11 @@ for form in '' --json --heading '--json --heading' --count '--count --json' '--h
     same replay $form $files
 done
 same replay --bytes mixed
+
+# More text of each block than is held.
+perl -e 'print <> x 3000' "$source/examples/inconsistent-ac.jsonl" >wide
+same replay --bytes wide
+[ "$(wc -c <out.1)" -gt 40000000 ] || fail "--bytes of much: $(wc -c <out.1) bytes"
 for files in sound mixed 'sound mixed' 'mixed small missing sound' 'sound sound'; do
     # shellcheck disable=SC2086
     same check $files && same check --json --all $files
