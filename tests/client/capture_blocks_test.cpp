@@ -103,16 +103,16 @@ TEST(CaptureBlocks, ALineThatIsTooLongIsSkipped)
 {
     const std::string longest(Block::longest_line, 'x');
     const std::string usual(2 * Block::usual_size, 'y'); // which are left in the file
-    const TemporaryFile file(capture + '\n' + longest + '\n' + longest + "x\n" + "last\n" + longest + usual + '\n' +
-                             usual + '\n' + longest + "xx");
+    const TemporaryFile file(capture + '\n' + longest + '\n' + longest + "x\n" + longest + usual + '\n' + usual +
+                             "\nlast\n" + longest + "xx");
     const Lines lines = lines_of(file.path());
     ASSERT_EQ(lines.size(), 7U);
     EXPECT_TRUE(lines[1] == std::pair(std::size_t{2}, longest));
     // One more character fits into a block, where whoever reads the line refuses it.
     EXPECT_EQ(lines[2].second.substr(0, 20), longest.substr(0, 20));
-    EXPECT_EQ(lines[3], std::pair(std::size_t{4}, std::string("last")));
-    EXPECT_EQ(lines[4], std::pair(std::size_t{5}, std::string("too long")));
-    EXPECT_TRUE(lines[5] == std::pair(std::size_t{6}, usual));
+    EXPECT_EQ(lines[3], std::pair(std::size_t{4}, std::string("too long")));
+    EXPECT_TRUE(lines[4] == std::pair(std::size_t{5}, usual));
+    EXPECT_EQ(lines[5], std::pair(std::size_t{6}, std::string("last")));
     EXPECT_EQ(lines[6], std::pair(std::size_t{7}, std::string("too long")));
 }
 

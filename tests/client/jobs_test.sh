@@ -116,6 +116,10 @@ for command in replay 'replay --json' check; do
     ended $? 2 'l2fib-show: standard output: No space left on device' "$command on a full disk"
 done
 
+# A file that becomes too large after the first process has written to it.
+(trap '' XFSZ && ulimit -f 2000 && "$show" replay --jobs 3 longer >limited 2>stderr)
+ended $? 2 'l2fib-show: standard output: File too large' "a file that may not become so large"
+
 # Nobody reads what they print after a while, so that all of them have something to do.
 mkfifo sink
 exec 8<>sink
