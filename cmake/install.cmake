@@ -46,7 +46,7 @@ function(l2fib_install_matching patterns destination component)
     install(FILES ${files} DESTINATION ${destination} COMPONENT ${component})
 endfunction()
 l2fib_install_matching(docs/man/*.3 ${CMAKE_INSTALL_MANDIR}/man3 dev)
-l2fib_install_matching("docs/design.md;docs/fuzzing.md;docs/integration.md" ${CMAKE_INSTALL_DOCDIR} dev)
+l2fib_install_matching("docs/architecture.md;docs/fuzzing.md;docs/integration.md" ${CMAKE_INSTALL_DOCDIR} dev)
 
 # The manual has one page for all functions. Each of them leads to it by its own name.
 file(STRINGS cmake/zel_l2fib.map exported REGEX "^    [a-z0-9_]+;$")

@@ -91,7 +91,8 @@ bool receive_order(int socket, Order &order)
         std::memcpy(&file, CMSG_DATA(first), sizeof file);
     }
     order = {message.block, Descriptor(file)};
-    return received == sizeof message.block;
+    const bool has_lost_file = (message.header.msg_flags & MSG_CTRUNC) != 0; // no room for it among the open ones
+    return received == sizeof message.block && !has_lost_file;
 }
 
 } // namespace l2fib

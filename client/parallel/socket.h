@@ -45,7 +45,7 @@ struct Order {
     Descriptor file; ///< which the block is to be read from, if any
 };
 
-/// An order with a file that this process has open; -1 for none. False when the other end is gone.
+/// An order with a file that this process has open; -1 for none. False when the other end is gone, or the file is lost.
 bool send_order(int socket, std::size_t block, int file);
 bool receive_order(int socket, Order &order);
 
